@@ -1,0 +1,113 @@
+#include "core/ProjectFolder.h"
+
+#include <strings.h>
+
+#include <cstdio>
+
+#include "core/Log.h"
+#include "core/ProjectPaths.h"
+#include "core/SaveData.h"
+#include "core/SystemText.h"
+#include "platform/FileSystem.h"
+
+namespace velmora {
+namespace {
+
+std::string WithoutTrailingBackslash(std::string path) {
+  while (!path.empty() && path.back() == '\\') path.pop_back();
+  return path;
+}
+
+std::string FolderOf(const std::string& path) {
+  size_t slash = path.find_last_of('\\');
+  return slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
+}
+
+bool HasEntryIgnoringCase(const std::vector<cDirEntry>& entries, const std::string& name) {
+  for (const cDirEntry& entry : entries) {
+    if (!entry.isDirectory && ::strcasecmp(entry.name.c_str(), name.c_str()) == 0) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+void CreateProjectFolders() {
+  for (const std::string& folder : EditorFolders()) MakeDirectory(folder);
+  for (const std::string& folder : ProjectFolders()) MakeDirectory(folder);
+}
+
+bool CreateDefaultData(OwnerWindow owner) {
+  const std::string data = PathOf(ePath::Data);
+  const std::string source = PathOf(ePath::Default);
+  if (IsDirectory(data)) return true;
+  if (!IsDirectory(source)) return false;
+  eAnswer answer = Prompt().Ask(owner, SysText("デフォルトデータ作成の確認"),
+                                SysText("データが存在しません！デフォルトデータを作成しますか？\n"),
+                                eButtons::YesNo, eIcon::Question);
+  if (answer != eAnswer::Yes) return false;
+  if (CopyTree(WithoutTrailingBackslash(source), data)) return true;
+  DeleteFolder(data);
+  return false;
+}
+
+bool FindVersioned(std::string& out, const std::string& path, const std::string& extension) {
+  size_t dot = path.find_last_of('.');
+  std::string stem = (dot == std::string::npos ? path : path.substr(0, dot)) + "." + extension;
+  const std::string folder = FolderOf(stem);
+  const std::string name = stem.substr(folder.size());
+  // One look at the folder serves all thousand candidates.
+  const std::vector<cDirEntry> entries = ListDirectory(folder.empty() ? std::string(".") : folder);
+  for (int suffix = 999; suffix >= 0; --suffix) {
+    char candidate[16];
+    std::snprintf(candidate, sizeof candidate, "_%d%d%d", suffix / 100, suffix / 10 % 10, suffix % 10);
+    if (HasEntryIgnoringCase(entries, name + candidate)) {
+      out = stem + candidate;
+      return true;
+    }
+  }
+  return false;
+}
+
+void EnsureDefaultStage() {
+  const std::string& stageExt = ExtOf(eExt::Stage);
+  std::string found;
+  if (FindVersioned(found, PathOf(ePath::DefaultStage), stageExt)) return;
+  if (!FindVersioned(found, PathOf(ePath::DefaultDefaultStage), stageExt)) return;
+  const std::string& dataPattern = PathOf(ePath::DefaultStage);
+  std::string stem = dataPattern.substr(0, dataPattern.find_last_of('.')) + "." + stageExt;
+  CopyFileTo(found, stem + "_" + found.substr(found.size() - 3), false);
+}
+
+bool DeleteFolder(const std::string& path) {
+  std::string folder = path;
+  if (folder.empty() || folder.back() != '\\') folder += '\\';
+  for (const cDirEntry& entry : ListDirectory(folder)) {
+    const std::string inner = folder + entry.name;
+    if (!(entry.isDirectory ? DeleteFolder(inner) : RemoveFile(inner))) return false;
+  }
+  return RemoveEmptyDirectory(folder);
+}
+
+bool CopyFolder(OwnerWindow, const std::string& destination, const std::string& source) {
+  const std::string from = WithoutTrailingBackslash(source);
+  if (IsDirectory(destination) && !DeleteFolder(destination)) DebugText(SysText("削除失敗！"));
+  if (CopyTree(from, destination)) return true;
+  DeleteFolder(destination);
+  return false;
+}
+
+bool BackupData(OwnerWindow owner) {
+  if (g_bNoSave || !IsDirectory(PathOf(ePath::Data))) return false;
+  Prompt().ShowMessageWindow(owner, SysText("バックアップ"), SysText("エディットデータをバックアップしています..."));
+  bool ok = CopyFolder(owner, PathOf(ePath::DataBackup), PathOf(ePath::Data));
+  Prompt().CloseMessageWindow();
+  return ok;
+}
+
+bool BackupEditData(OwnerWindow owner) {
+  if (g_bNoSave || !IsDirectory(PathOf(ePath::EditData))) return false;
+  return CopyFolder(owner, PathOf(ePath::EditDataBackup), PathOf(ePath::EditData));
+}
+
+}  // namespace velmora

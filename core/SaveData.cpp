@@ -1,0 +1,364 @@
+#include "core/SaveData.h"
+
+#include <cstring>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <typeindex>
+
+#include "platform/TextCodec.h"
+
+namespace velmora {
+
+uint32_t g_nAppVersion = kCurrentVersion;
+uint32_t g_nFileVersion = 0;
+int32_t g_bFileTooNew = 0;
+int32_t g_bNoSave = 0;
+std::string g_strDropped;
+int32_t g_nDropped = 0;
+
+void SetAppVersion() { g_nAppVersion = kCurrentVersion; }
+
+namespace {
+
+// A string passes through a working buffer of this size when saved.
+constexpr size_t kStringBuffer = 5120;
+
+thread_local cRecordLayout* t_building = nullptr;
+thread_local const cSaveData* t_buildingRecord = nullptr;
+
+struct cLayoutKey {
+  std::type_index type;
+  uint32_t version;
+  uint32_t variant;
+  bool operator<(const cLayoutKey& other) const {
+    if (type != other.type) return type < other.type;
+    if (version != other.version) return version < other.version;
+    return variant < other.variant;
+  }
+};
+
+std::mutex g_layoutLock;
+std::map<cLayoutKey, std::unique_ptr<cRecordLayout>> g_layouts;
+
+// The one-entry memo in front of the shared table: records are mostly read
+// and written in runs of one class.
+struct cLayoutMemo {
+  const std::type_info* type = nullptr;
+  uint32_t version = 0;
+  uint32_t variant = 0;
+  const cRecordLayout* layout = nullptr;
+};
+thread_local cLayoutMemo t_memo;
+
+template <class T>
+T* At(const cSaveData* record, std::ptrdiff_t offset) {
+  return reinterpret_cast<T*>(const_cast<char*>(reinterpret_cast<const char*>(record)) + offset);
+}
+
+const cSaveField& FieldEntry(const cRecordLayout& layout, int index) {
+  return VecAt(layout.fields, index, eBadIndexClose::PostRequest);
+}
+
+const cSaveString& StringEntry(const cRecordLayout& layout, int index) {
+  return VecAt(layout.strings, index, eBadIndexClose::PostRequest);
+}
+
+bool InRange(const std::vector<cSaveField>& list, int index) {
+  return index >= 0 && static_cast<size_t>(index) < list.size();
+}
+
+bool InRange(const std::vector<cSaveString>& list, int index) {
+  return index >= 0 && static_cast<size_t>(index) < list.size();
+}
+
+void ReadScalarBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& file) {
+  int32_t entries = 0;
+  if (!file.ReadInt32(entries)) return;
+  for (int32_t i = 0; i < entries; ++i) {
+    if (!InRange(layout.fields, i)) {
+      // More entries than the class knows: the stop runs, and with the
+      // stream out of step nothing more of this file can be trusted.
+      FieldEntry(layout, i);
+      file.MarkDamaged();
+      return;
+    }
+    const cSaveField& field = layout.fields[static_cast<size_t>(i)];
+    const size_t bytes = static_cast<size_t>(field.count) * static_cast<size_t>(field.size);
+    if (field.dropped) {
+      if (bytes <= sizeof g_nDropped ? !file.Read(&g_nDropped, bytes) : !file.Skip(bytes)) return;
+    } else if (!file.Read(At<char>(record, field.offset), bytes)) {
+      return;
+    }
+  }
+}
+
+void ReadStringBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& file) {
+  int32_t entries = 0;
+  if (!file.ReadInt32(entries)) return;
+  for (int32_t i = 0; i < entries; ++i) {
+    if (!InRange(layout.strings, i)) {
+      StringEntry(layout, i);
+      file.MarkDamaged();
+      return;
+    }
+    int32_t length = 0;
+    if (!file.ReadInt32(length)) return;
+    const cSaveString& entry = layout.strings[static_cast<size_t>(i)];
+    std::string* target = entry.dropped ? &g_strDropped : At<std::string>(record, entry.offset);
+    if (length == 1) {
+      target->clear();
+      continue;
+    }
+    if (length < 1 || static_cast<uint64_t>(length) > file.Remaining()) {
+      file.MarkDamaged();
+      return;
+    }
+    std::string buffer(static_cast<size_t>(length), '\0');
+    if (!file.Read(buffer.data(), buffer.size())) return;
+    buffer.resize(std::strlen(buffer.c_str()));
+    *target = std::move(buffer);
+  }
+}
+
+// Cuts a text where the working buffer of the writer would: at its first
+// zero byte, and within the buffer without splitting a two-byte character.
+void CutForBuffer(std::string& text) {
+  size_t zero = text.find('\0');
+  if (zero != std::string::npos) text.resize(zero);
+  if (text.size() < kStringBuffer) return;
+  size_t cut = 0;
+  for (size_t i = 0; i < kStringBuffer - 1;) {
+    size_t step = IsCp932LeadByte(static_cast<unsigned char>(text[i])) ? 2 : 1;
+    if (i + step > kStringBuffer - 1) break;
+    i += step;
+    cut = i;
+  }
+  text.resize(cut);
+}
+
+bool SameFirstElement(const cSaveData& a, const cSaveData& b, const cSaveField& field) {
+  const char* left = At<char>(&a, field.offset);
+  const char* right = At<char>(&b, field.offset);
+  switch (field.size) {
+    case 1:
+    case 2:
+    case 4:
+      return std::memcmp(left, right, static_cast<size_t>(field.size)) == 0;
+    case 8: {
+      double x, y;
+      std::memcpy(&x, left, 8);
+      std::memcpy(&y, right, 8);
+      return x == y;
+    }
+    default:
+      return true;
+  }
+}
+
+}  // namespace
+
+class cLayoutBuilder {
+ public:
+  static std::unique_ptr<cRecordLayout> Build(const cSaveData& record, uint32_t version) {
+    auto layout = std::make_unique<cRecordLayout>();
+    cRecordLayout* outerLayout = t_building;
+    const cSaveData* outerRecord = t_buildingRecord;
+    t_building = layout.get();
+    t_buildingRecord = &record;
+    const_cast<cSaveData&>(record).Register(version);
+    t_building = outerLayout;
+    t_buildingRecord = outerRecord;
+    return layout;
+  }
+};
+
+const cRecordLayout& cSaveData::Layout(uint32_t version) const {
+  const std::type_info& type = typeid(*this);
+  const uint32_t variant = LayoutVariant();
+  if (t_memo.type == &type && t_memo.version == version && t_memo.variant == variant) return *t_memo.layout;
+
+  const cLayoutKey key{std::type_index(type), version, variant};
+  const cRecordLayout* layout = nullptr;
+  {
+    std::lock_guard<std::mutex> guard(g_layoutLock);
+    auto found = g_layouts.find(key);
+    if (found != g_layouts.end()) layout = found->second.get();
+  }
+  if (!layout) {
+    // Built outside the lock: a Register may construct other records.
+    auto built = cLayoutBuilder::Build(*this, version);
+    std::lock_guard<std::mutex> guard(g_layoutLock);
+    auto [it, inserted] = g_layouts.try_emplace(key, std::move(built));
+    layout = it->second.get();
+  }
+  t_memo = {&type, version, variant, layout};
+  return *layout;
+}
+
+void cSaveData::ClearLists() {
+  if (!t_building) return;
+  t_building->fields.clear();
+  t_building->strings.clear();
+}
+
+void cSaveData::AddField(void* data, bool widthMatches, int count, int size, eFieldKind kind, const char* name) {
+  if (!t_building || t_buildingRecord != this) return;
+  cSaveField field;
+  field.name = name;
+  field.kind = kind;
+  field.count = count;
+  field.size = static_cast<int8_t>(size);
+  field.dropped = (data == &g_nDropped);
+  if (!widthMatches && !field.dropped) {
+    // A field whose width differs from its Add would corrupt memory on load.
+    ReportFormat("bad field width %d in %s", size, typeid(*this).name());
+    AppControl().EndProcess(4);
+  }
+  field.offset = field.dropped ? 0 : reinterpret_cast<char*>(data) - reinterpret_cast<char*>(this);
+  t_building->fields.push_back(field);
+}
+
+void cSaveData::AddString(std::string* text, const char* name) {
+  if (!t_building || t_buildingRecord != this) return;
+  cSaveString entry;
+  entry.name = name;
+  entry.dropped = (text == &g_strDropped);
+  entry.offset = entry.dropped ? 0 : reinterpret_cast<char*>(text) - reinterpret_cast<char*>(this);
+  t_building->strings.push_back(entry);
+}
+
+void cSaveData::Load(cDataFile& file) {
+  const cRecordLayout& layout = Layout(g_nFileVersion);
+  ReadScalarBlock(this, layout, file);
+  ReadStringBlock(this, layout, file);
+}
+
+void cSaveData::Save(cDataFile& file) {
+  const cRecordLayout& layout = Layout(g_nAppVersion);
+  file.WriteInt32(static_cast<int32_t>(layout.fields.size()));
+  for (const cSaveField& field : layout.fields) {
+    const size_t bytes = static_cast<size_t>(field.count) * static_cast<size_t>(field.size);
+    file.Write(field.dropped ? static_cast<void*>(&g_nDropped) : At<char>(this, field.offset), bytes);
+  }
+  file.WriteInt32(static_cast<int32_t>(layout.strings.size()));
+  for (const cSaveString& entry : layout.strings) {
+    std::string& text = entry.dropped ? g_strDropped : *At<std::string>(this, entry.offset);
+    CutForBuffer(text);
+    const int32_t length = static_cast<int32_t>(text.size()) + 1;
+    file.WriteInt32(length);
+    if (length != 1) file.Write(text.c_str(), static_cast<size_t>(length));
+  }
+}
+
+int cSaveData::LoadFile(const std::string& name) {
+  DataFilePtr file = OpenRead(name);
+  if (!file) return 0;
+  Load(*file);
+  CloseData(file);
+  return 1;
+}
+
+int cSaveData::SaveFile(const std::string& name) {
+  if (g_bNoSave) return 0;
+  DataFilePtr file = OpenWrite(name);
+  if (!file) return 0;
+  Save(*file);
+  return CloseData(file) ? 1 : 0;
+}
+
+void cSaveData::Reset() {
+  const cRecordLayout& layout = Layout(g_nAppVersion);
+  for (const cSaveField& field : layout.fields) {
+    if (field.dropped) continue;
+    std::memset(At<char>(this, field.offset), 0, static_cast<size_t>(field.count) * static_cast<size_t>(field.size));
+  }
+  for (const cSaveString& entry : layout.strings) {
+    if (!entry.dropped) At<std::string>(this, entry.offset)->clear();
+  }
+}
+
+void cSaveData::CopyFrom(const cSaveData& other) {
+  const cRecordLayout& layout = Layout(g_nAppVersion);
+  const cRecordLayout& source = other.Layout(g_nAppVersion);
+  const size_t fields = std::min(layout.fields.size(), source.fields.size());
+  for (size_t i = 0; i < fields; ++i) {
+    const cSaveField& field = layout.fields[i];
+    if (field.dropped) continue;
+    std::memmove(At<char>(this, field.offset), At<char>(&other, source.fields[i].offset),
+                 static_cast<size_t>(field.count) * static_cast<size_t>(field.size));
+  }
+  const size_t strings = std::min(layout.strings.size(), source.strings.size());
+  for (size_t i = 0; i < strings; ++i) {
+    if (layout.strings[i].dropped) continue;
+    *At<std::string>(this, layout.strings[i].offset) = *At<std::string>(&other, source.strings[i].offset);
+  }
+}
+
+bool IsSame(const cSaveData& a, const cSaveData& b) {
+  const_cast<cSaveData&>(a).Prepare(g_nAppVersion);
+  const_cast<cSaveData&>(b).Prepare(g_nAppVersion);
+  const cRecordLayout& layout = a.Layout(g_nAppVersion);
+  for (const cSaveField& field : layout.fields) {
+    if (!field.dropped && !SameFirstElement(a, b, field)) return false;
+  }
+  for (const cSaveString& entry : layout.strings) {
+    if (entry.dropped) continue;
+    if (*At<std::string>(&a, entry.offset) != *At<std::string>(&b, entry.offset)) return false;
+  }
+  return true;
+}
+
+DataFilePtr OpenRead(const std::string& name) {
+  DataFilePtr file = cDataFile::OpenForRead(name.empty() ? "err" : name);
+  if (!file) return nullptr;
+  uint32_t version = 0;
+  // A file too short for its version word reads as version 0, the oldest.
+  if (!file->Read(&version, sizeof version)) version = 0;
+  g_nFileVersion = version;
+  if (g_nFileVersion > g_nAppVersion) {
+    g_bFileTooNew = 1;
+    return nullptr;
+  }
+  g_bFileTooNew = 0;
+  return file;
+}
+
+DataFilePtr OpenWrite(const std::string& name) {
+  if (g_bNoSave) return nullptr;
+  DataFilePtr file = cDataFile::OpenForWrite(name.empty() ? "err" : name);
+  if (!file) return nullptr;
+  file->Write(&g_nAppVersion, sizeof g_nAppVersion);
+  return file;
+}
+
+bool CloseData(DataFilePtr& file) {
+  if (!file) return true;
+  bool ok = file->Close();
+  file.reset();
+  return ok;
+}
+
+bool IsOlderFile(const std::string& name, uint32_t version) {
+  DataFilePtr file = OpenRead(name);
+  if (!file) return false;
+  CloseData(file);
+  return g_nFileVersion < version;
+}
+
+int32_t ReadCount(cDataFile& file, uint64_t minBytesPerElement) {
+  int32_t count = 0;
+  if (!file.ReadInt32(count)) return 0;
+  if (count < 0) {
+    file.MarkDamaged();
+    return 0;
+  }
+  const uint64_t fits = file.Remaining() / (minBytesPerElement ? minBytesPerElement : 1);
+  if (static_cast<uint64_t>(count) > fits) {
+    file.MarkDamaged();
+    return 0;
+  }
+  return count;
+}
+
+}  // namespace velmora

@@ -1,0 +1,164 @@
+#pragma once
+#include <cstdint>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "core/CheckedAccess.h"
+#include "core/DataFile.h"
+
+namespace velmora {
+
+// The process-wide persistence state.
+inline constexpr uint32_t kCurrentVersion = 950;
+extern uint32_t g_nAppVersion;   // the version this build writes
+extern uint32_t g_nFileVersion;  // version word of the file last opened by OpenRead
+extern int32_t g_bFileTooNew;    // the last OpenRead that found its file refused it
+extern int32_t g_bNoSave;        // once set, nothing is saved any more
+extern std::string g_strDropped; // target of retired string fields
+extern int32_t g_nDropped;       // target of retired scalar fields (any width)
+
+void SetAppVersion();
+
+
+// One registered scalar field. Records are kept by the hundred thousand, so
+// a record holds no field list of its own: the list describes where the
+// members lie inside any record of its class, and one list per class and
+// version is shared by all of them.
+enum class eFieldKind : uint8_t { Unsigned, Signed, Float };
+
+struct cSaveField {
+  std::ptrdiff_t offset = 0;  // from the record's cSaveData base
+  const char* name = "";      // the member's name, for the inspector
+  int32_t count = 1;          // elements stored one behind the other
+  int8_t size = 0;            // 1, 2, 4 or 8
+  eFieldKind kind = eFieldKind::Unsigned;
+  bool dropped = false;       // a retired field: read and thrown away
+};
+
+struct cSaveString {
+  std::ptrdiff_t offset = 0;
+  const char* name = "";
+  bool dropped = false;
+};
+
+// Registration names each member after itself: Add4(VFIELD(m_nLife)),
+// Add4(VFIELDS(m_anParam, 5)), AddString(VSTRING(m_strName)).
+#define VFIELD(member) &(member), 1, #member
+#define VFIELDS(member, count) (member), (count), #member
+#define VSTRING(member) &(member), #member
+
+class cSaveData;
+
+// Walks what the field lists do not know: nested vectors and records held
+// by pointer. The inspector and the tests of nested records use it.
+class cNestedVisitor {
+ public:
+  virtual ~cNestedVisitor() = default;
+  virtual void BeginArray(const char* name) = 0;
+  virtual void Element(const cSaveData& record) = 0;
+  virtual void EndArray() = 0;
+  // A record held by pointer; null when absent.
+  virtual void Child(const char* name, const cSaveData* record) = 0;
+};
+
+template <class Vector>
+void VisitVector(cNestedVisitor& visitor, const char* name, const Vector& vec) {
+  visitor.BeginArray(name);
+  for (const auto& element : vec) visitor.Element(element);
+  visitor.EndArray();
+}
+
+struct cRecordLayout {
+  std::vector<cSaveField> fields;
+  std::vector<cSaveString> strings;
+};
+
+// Base of every stored record. A derived class states its stored members in
+// file order in Register(version), under version gates. Register must depend
+// only on the version (and LayoutVariant), never on the values in the
+// record, since its result is built once and shared.
+class cSaveData {
+ public:
+  cSaveData() = default;
+  cSaveData(const cSaveData&) = default;
+  cSaveData& operator=(const cSaveData&) = default;
+  virtual ~cSaveData() = default;
+
+  virtual void Prepare(uint32_t /*version*/) {}
+  virtual void Load(cDataFile& file);
+  virtual void Save(cDataFile& file);
+
+  int LoadFile(const std::string& name);
+  int SaveFile(const std::string& name);
+  void Reset();
+  void CopyFrom(const cSaveData& other);
+
+  // The field lists for a version of this record's class.
+  const cRecordLayout& Layout(uint32_t version) const;
+  // Nested vectors and pointed-to records, in file order.
+  virtual void VisitNested(cNestedVisitor& /*visitor*/) const {}
+
+ protected:
+  virtual void Register(uint32_t /*version*/) {}
+  // A class whose lists differ between instances says so here.
+  virtual uint32_t LayoutVariant() const { return 0; }
+
+  void ClearLists();
+  template <class T>
+  void Add1(T* data, int count = 1, const char* name = "") { AddScalar<T, 1>(data, count, name); }
+  template <class T>
+  void Add2(T* data, int count = 1, const char* name = "") { AddScalar<T, 2>(data, count, name); }
+  template <class T>
+  void Add4(T* data, int count = 1, const char* name = "") { AddScalar<T, 4>(data, count, name); }
+  template <class T>
+  void Add8(T* data, int count = 1, const char* name = "") { AddScalar<T, 8>(data, count, name); }
+  void AddString(std::string* text, const char* name = "");
+
+ private:
+  template <class T, int N>
+  void AddScalar(T* data, int count, const char* name) {
+    static_assert(std::is_trivially_copyable_v<T>, "stored fields are plain memory");
+    // A retired field of any width is read into the one scratch value.
+    static_assert(sizeof(T) == N || std::is_same_v<T, int32_t>, "field width does not match its Add");
+    eFieldKind kind = std::is_floating_point_v<T> ? eFieldKind::Float
+                      : std::is_signed_v<T>       ? eFieldKind::Signed
+                                                  : eFieldKind::Unsigned;
+    AddField(data, sizeof(T) == N, count, N, kind, name);
+  }
+  void AddField(void* data, bool widthMatches, int count, int size, eFieldKind kind, const char* name);
+  friend class cLayoutBuilder;
+};
+
+bool IsSame(const cSaveData& a, const cSaveData& b);
+
+// File functions.
+DataFilePtr OpenRead(const std::string& name);
+DataFilePtr OpenWrite(const std::string& name);
+// Closes and forgets the file; false when something written was lost.
+bool CloseData(DataFilePtr& file);
+bool IsOlderFile(const std::string& name, uint32_t version);
+
+// Reading a count that sizes a vector: a count beyond what the rest of the
+// file could hold (each element takes at least `minBytesPerElement`) is
+// damage: the stream ends there and the count reads as 0.
+int32_t ReadCount(cDataFile& file, uint64_t minBytesPerElement);
+
+template <class T>
+void LoadVector(std::vector<T>& vec, cDataFile& file) {
+  static_assert(std::is_base_of_v<cSaveData, T>);
+  // Even an empty record has its two entry counts.
+  int32_t count = ReadCount(file, 8);
+  vec.clear();
+  vec.resize(static_cast<size_t>(count));
+  for (T& element : vec) element.Load(file);
+}
+
+template <class T>
+void SaveVector(std::vector<T>& vec, cDataFile& file) {
+  static_assert(std::is_base_of_v<cSaveData, T>);
+  file.WriteInt32(static_cast<int32_t>(vec.size()));
+  for (T& element : vec) element.Save(file);
+}
+
+}  // namespace velmora

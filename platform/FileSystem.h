@@ -1,0 +1,33 @@
+#pragma once
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace velmora {
+
+// File operations on stored (Windows-style, relative to the project) paths.
+// Each turns its path into a host path first, so callers never handle
+// separators or case.
+
+struct cDirEntry {
+  std::string name;  // as on disk
+  bool isDirectory = false;
+};
+
+std::FILE* OpenFile(const std::string& stored, const char* mode);
+bool IsDirectory(const std::string& stored);
+bool FileExists(const std::string& stored);  // a regular file
+bool MakeDirectory(const std::string& stored);
+bool RemoveEmptyDirectory(const std::string& stored);
+bool RemoveFile(const std::string& stored);
+// Replaces an existing target, like MoveFileEx with MOVEFILE_REPLACE_EXISTING.
+bool MoveFileReplacing(const std::string& from, const std::string& to);
+// With `overwrite` false an existing target is left alone and the call fails.
+bool CopyFileTo(const std::string& from, const std::string& to, bool overwrite);
+// Copies a folder with all it holds to `to`, which must not exist yet.
+bool CopyTree(const std::string& from, const std::string& to);
+std::vector<cDirEntry> ListDirectory(const std::string& stored);
+std::string FullHostPath(const std::string& stored);
+long long FileSize(const std::string& stored);  // -1 when missing
+
+}  // namespace velmora

@@ -1,0 +1,46 @@
+#include "inspect/FileKinds.h"
+
+#include <strings.h>
+
+namespace velmora::inspect {
+namespace {
+
+std::string BaseName(const std::string& path) {
+  size_t cut = path.find_last_of("/\\");
+  return cut == std::string::npos ? path : path.substr(cut + 1);
+}
+
+bool Matches(const std::string& pattern, const std::string& name) {
+  if (pattern.size() > 1 && pattern[0] == '*') {
+    const std::string tail = pattern.substr(1);
+    return name.size() >= tail.size() && ::strcasecmp(name.c_str() + name.size() - tail.size(), tail.c_str()) == 0;
+  }
+  return ::strcasecmp(pattern.c_str(), name.c_str()) == 0;
+}
+
+// Stage files carry their version in the extension ("a.stg4_950"): the
+// kind is found by the part before the suffix.
+std::string WithoutVersionSuffix(const std::string& name) {
+  size_t underscore = name.find_last_of('_');
+  size_t dot = name.find_last_of('.');
+  if (underscore == std::string::npos || dot == std::string::npos || underscore < dot) return name;
+  return name.substr(0, underscore);
+}
+
+}  // namespace
+
+const std::vector<cFileKind>& FileKinds() {
+  // Each record issue adds the files it brings.
+  static const std::vector<cFileKind> kinds = {};
+  return kinds;
+}
+
+const cFileKind* FindFileKind(const std::string& path) {
+  const std::string name = BaseName(path);
+  for (const cFileKind& kind : FileKinds()) {
+    if (Matches(kind.pattern, name) || Matches(kind.pattern, WithoutVersionSuffix(name))) return &kind;
+  }
+  return nullptr;
+}
+
+}  // namespace velmora::inspect

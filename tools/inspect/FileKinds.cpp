@@ -2,6 +2,8 @@
 
 #include <strings.h>
 
+#include "objects/GValInfo.h"
+
 namespace velmora::inspect {
 namespace {
 
@@ -31,7 +33,9 @@ std::string WithoutVersionSuffix(const std::string& name) {
 
 const std::vector<cFileKind>& FileKinds() {
   // Each record issue adds the files it brings.
-  static const std::vector<cFileKind> kinds = {};
+  static const std::vector<cFileKind> kinds = {
+      {"GValInfo", "GValInfo.dat", cRecordFile<cCommonVarFile>::Load},
+  };
   return kinds;
 }
 

@@ -2,12 +2,12 @@
 #include <string>
 #include <vector>
 
+#include "core/ProjectPaths.h"
 #include "objects/StageVar.h"
 
 namespace velmora {
 
 inline constexpr int kCommonVarCount = 1000;
-inline constexpr const char* kCommonVarFile = "data\\GValInfo.dat";
 
 // The names of the common variables, always kCommonVarCount of them once
 // loaded.
@@ -25,8 +25,8 @@ class cCommonVarFile : public cSaveData {
 };
 
 // False when the file could not be read; the list then stays as it was.
-bool LoadCommonVars(const std::string& storedPath = kCommonVarFile);
-bool SaveCommonVars(const std::string& storedPath = kCommonVarFile);
+bool LoadCommonVars(const std::string& storedPath = PathOf(ePath::GValInfo));
+bool SaveCommonVars(const std::string& storedPath = PathOf(ePath::GValInfo));
 
 enum eVarScope : int { kScopeCommon = 0, kScopeStage = 1 };
 

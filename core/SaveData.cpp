@@ -56,33 +56,23 @@ T* At(const cSaveData* record, std::ptrdiff_t offset) {
   return reinterpret_cast<T*>(const_cast<char*>(reinterpret_cast<const char*>(record)) + offset);
 }
 
-const cSaveField& FieldEntry(const cRecordLayout& layout, int index) {
-  return VecAt(layout.fields, index, eBadIndexClose::PostRequest);
-}
-
-const cSaveString& StringEntry(const cRecordLayout& layout, int index) {
-  return VecAt(layout.strings, index, eBadIndexClose::PostRequest);
-}
-
-bool InRange(const std::vector<cSaveField>& list, int index) {
-  return index >= 0 && static_cast<size_t>(index) < list.size();
-}
-
-bool InRange(const std::vector<cSaveString>& list, int index) {
-  return index >= 0 && static_cast<size_t>(index) < list.size();
+// The checked access of the field lists. Past the end of a list the stop
+// runs as for any bad index, but the load ends there instead of going on
+// with element 0: the stream is out of step and nothing more of the file
+// can be trusted, and a class with no strings has no element 0 to give.
+template <class Entry>
+bool EntryInRange(const std::vector<Entry>& list, int index, cDataFile& file) {
+  if (index >= 0 && static_cast<size_t>(index) < list.size()) return true;
+  BadIndex('V', index, static_cast<int>(list.size()), static_cast<int>(sizeof(Entry)), eBadIndexClose::PostRequest);
+  file.MarkDamaged();
+  return false;
 }
 
 void ReadScalarBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& file) {
   int32_t entries = 0;
   if (!file.ReadInt32(entries)) return;
   for (int32_t i = 0; i < entries; ++i) {
-    if (!InRange(layout.fields, i)) {
-      // More entries than the class knows: the stop runs, and with the
-      // stream out of step nothing more of this file can be trusted.
-      FieldEntry(layout, i);
-      file.MarkDamaged();
-      return;
-    }
+    if (!EntryInRange(layout.fields, i, file)) return;
     const cSaveField& field = layout.fields[static_cast<size_t>(i)];
     const size_t bytes = static_cast<size_t>(field.count) * static_cast<size_t>(field.size);
     if (field.dropped) {
@@ -97,11 +87,7 @@ void ReadStringBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& 
   int32_t entries = 0;
   if (!file.ReadInt32(entries)) return;
   for (int32_t i = 0; i < entries; ++i) {
-    if (!InRange(layout.strings, i)) {
-      StringEntry(layout, i);
-      file.MarkDamaged();
-      return;
-    }
+    if (!EntryInRange(layout.strings, i, file)) return;
     int32_t length = 0;
     if (!file.ReadInt32(length)) return;
     const cSaveString& entry = layout.strings[static_cast<size_t>(i)];

@@ -2,6 +2,9 @@
 
 #include <strings.h>
 
+#include "core/EditConfig.h"
+#include "core/SheetSize.h"
+
 namespace velmora::inspect {
 namespace {
 
@@ -31,7 +34,10 @@ std::string WithoutVersionSuffix(const std::string& name) {
 
 const std::vector<cFileKind>& FileKinds() {
   // Each record issue adds the files it brings.
-  static const std::vector<cFileKind> kinds = {};
+  static const std::vector<cFileKind> kinds = {
+      {"EditConfig", "EditConfig.dat", &cRecordFile<EditConfig>::Load},
+      {"SheetSize", "SheetSize.dat", &cRecordFile<SheetSize>::Load},
+  };
   return kinds;
 }
 

@@ -137,12 +137,22 @@ void PrjOption::Load(cDataFile& file) {
   }
 }
 
+// Writes the layout of the version being written, which is always the
+// current one but for tests that make old files.
 void PrjOption::Save(cDataFile& file) {
+  const uint32_t version = g_nAppVersion;
   cSaveData::Save(file);
-  m_DefBlock.Save(file);
-  m_DefChara.Save(file);
-  m_DefItem.Save(file);
+  if (version >= 120) {
+    m_DefBlock.Save(file);
+    m_DefChara.Save(file);
+    m_DefItem.Save(file);
+  }
+  if (version >= 71 && version < 130) {
+    cWindowPlace retired;
+    for (int i = 0; i < 11; ++i) retired.Save(file);
+  }
   for (const cFlagRow& row : kFlagRows) {
+    if (version < row.since) continue;
     for (const auto& flags : m_vDefFlags[row.moment]) SavePlainVector(flags, file);
   }
 }

@@ -3,6 +3,9 @@
 #include <strings.h>
 
 #include "core/EditConfig.h"
+#include "core/PrjOption.h"
+#include "inspect/StagePaletteFile.h"
+#include "objects/Palette.h"
 #include "core/SheetSize.h"
 #include "objects/GValInfo.h"
 
@@ -38,6 +41,9 @@ const std::vector<cFileKind>& FileKinds() {
   static const std::vector<cFileKind> kinds = {
       {"EditConfig", "EditConfig.dat", &cRecordFile<EditConfig>::Load},
       {"SheetSize", "SheetSize.dat", &cRecordFile<SheetSize>::Load},
+      {"PrjOption", "PrjOption.dat", &cRecordFile<PrjOption>::Load},
+      {"CommonPalette", "*.cplt4", &cRecordFile<cPalette>::Load},
+      {"StagePalette", "*.plt4", &LoadStagePaletteFile},
       {"GValInfo", "GValInfo.dat", cRecordFile<cCommonVarFile>::Load},
   };
   return kinds;

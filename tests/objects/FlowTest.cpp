@@ -82,3 +82,41 @@ TEST(FlowCheck, EveryCommandGetsItsParameterCount) {
 
 }  // namespace
 }  // namespace velmora::testing
+
+namespace velmora::testing {
+namespace {
+
+// Writes down what the inspector would be shown, in order.
+class cNestedNames : public cNestedVisitor {
+ public:
+  void BeginArray(const char* name) override { names += std::string(name) + "["; }
+  void Element(const cSaveData& record) override {
+    names += "{";
+    record.VisitNested(*this);
+    names += "}";
+  }
+  void EndArray() override { names += "] "; }
+  void Child(const char* name, const cSaveData* record) override {
+    names += std::string(name) + (record ? "+ " : "- ");
+  }
+  void Numbers(const char* name, const std::vector<int64_t>& values) override {
+    names += std::string(name) + "#" + std::to_string(values.size()) + " ";
+  }
+  std::string names;
+};
+
+TEST(FlowInspection, NestedPartsAreShownInFileOrder) {
+  cEdFlow flow;
+  flow.m_vKeyCond.resize(1);
+  flow.m_vCmd.resize(1);
+  flow.m_vCmd[0].m_pShot.Make();
+  flow.m_vCmd[0].m_vParam = {1, 2, 3};
+  cNestedNames visitor;
+  flow.VisitNested(visitor);
+  EXPECT_EQ(visitor.names,
+            "m_vCond[] m_vKeyCond[{m_vKeyState#19 }] "
+            "m_vCmd[{m_pMove- m_pShot+ m_pCondList- m_vSubFlow[] m_vParam#3 }] ");
+}
+
+}  // namespace
+}  // namespace velmora::testing

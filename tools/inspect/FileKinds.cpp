@@ -2,6 +2,8 @@
 
 #include <strings.h>
 
+#include "core/EditConfig.h"
+#include "core/SheetSize.h"
 #include "objects/GValInfo.h"
 
 namespace velmora::inspect {
@@ -34,7 +36,9 @@ std::string WithoutVersionSuffix(const std::string& name) {
 const std::vector<cFileKind>& FileKinds() {
   // Each record issue adds the files it brings.
   static const std::vector<cFileKind> kinds = {
-      {"GValInfo", "GValInfo.dat", cRecordFile<cCommonVarFile>::Load},
+      {"EditConfig", "EditConfig.dat", &cRecordFile<EditConfig>::Load},
+      {"SheetSize", "SheetSize.dat", &cRecordFile<SheetSize>::Load},
+      {"GValInfo", "GValInfo.dat", &cRecordFile<cCommonVarFile>::Load},
   };
   return kinds;
 }

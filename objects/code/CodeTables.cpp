@@ -38,37 +38,35 @@ int32_t RandomBetween(std::span<const int32_t> arguments) {
 
 constexpr cCodeFunction kFunctions[] = {{"rand", 2, RandomBetween}};
 
+const char* TextOf(const char* word) { return word; }
+const char* TextOf(const cCodeFunction& function) { return function.name; }
+const char* TextOf(const cCodeOperator& op) { return op.text; }
+
+template <class tRow>
+int RowOf(std::span<const tRow> table, std::string_view word) {
+  for (size_t row = 0; row < table.size(); ++row) {
+    if (word == TextOf(table[row])) return static_cast<int>(row);
+  }
+  return -1;
+}
+
 }  // namespace
 
 cCodeWords CodeObjectTable() { return kObjects; }
 cCodeWords CodeVarPrefixTable() { return kVarPrefixes; }
 cCodeWords CodeCharaStatusTable() { return kCharaStatuses; }
 cCodeWords CodeSystemStatusTable() { return kSystemStatuses; }
-
-int FindCodeWord(cCodeWords table, std::string_view word) {
-  for (size_t row = 0; row < table.size(); ++row) {
-    if (word == table[row]) return static_cast<int>(row);
-  }
-  return -1;
-}
-
 std::span<const cCodeFunction> CodeFunctionTable() { return kFunctions; }
-
-const cCodeFunction* FindCodeFunction(std::string_view name) {
-  for (const cCodeFunction& function : kFunctions) {
-    if (name == function.name) return &function;
-  }
-  return nullptr;
-}
-
 std::span<const cCodeOperator> CodeOperatorTable() { return kOperators; }
 
-int FindCodeOperator(std::string_view word) {
-  for (size_t row = 0; row < std::size(kOperators); ++row) {
-    if (word == kOperators[row].text) return static_cast<int>(row);
-  }
-  return -1;
+int FindCodeWord(cCodeWords table, std::string_view word) { return RowOf(table, word); }
+
+const cCodeFunction* FindCodeFunction(std::string_view name) {
+  const int row = RowOf(CodeFunctionTable(), name);
+  return row < 0 ? nullptr : &kFunctions[row];
 }
+
+int FindCodeOperator(std::string_view word) { return RowOf(CodeOperatorTable(), word); }
 
 const cCodeOperator* CodeOperatorAt(int index) {
   if (index < 0 || static_cast<size_t>(index) >= std::size(kOperators)) return nullptr;

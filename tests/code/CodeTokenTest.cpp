@@ -2,8 +2,6 @@
 
 #include <vector>
 
-#include "objects/code/CodeErrors.h"
-#include "objects/code/CodeTables.h"
 #include "objects/code/CodeToken.h"
 #include "support/ScriptedPrompt.h"
 
@@ -47,20 +45,6 @@ TEST(CodeTokenTest, WordsBecomeTokensOfTheirKindWithLimitsAndObject) {
   EXPECT_EQ(2147483647, tokens[0].maxValue);
   EXPECT_EQ(-999999, tokens[2].minValue);
   EXPECT_EQ(999999, tokens[2].maxValue);
-}
-
-TEST(CodeTokenTest, TablesKeepTheLanguagesOrderAndPriorities) {
-  EXPECT_EQ(28u, CodeCharaStatusTable().size());
-  EXPECT_EQ(4, FindCodeWord(CodeSystemStatusTable(), "life"));
-  EXPECT_EQ(2, FindCodeWord(CodeObjectTable(), "tg1"));
-  EXPECT_EQ(-1, FindCodeWord(CodeObjectTable(), "TG1"));
-  const int priorities[] = {2, 1, 1, 0, 0, 0};
-  ASSERT_EQ(std::size(priorities), CodeOperatorTable().size());
-  for (size_t row = 0; row < std::size(priorities); ++row) {
-    EXPECT_EQ(priorities[row], CodeOperatorTable()[row].priority);
-  }
-  EXPECT_EQ(nullptr, CodeOperatorAt(6));
-  EXPECT_EQ(nullptr, FindCodeFunction("Rand"));
 }
 
 TEST(CodeTokenTest, AStoreWritesOnlyTheCellsWidth) {

@@ -9,25 +9,20 @@
 namespace velmora {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-bool IsNumberWord(std::string_view word) {
-  const size_t first = (word[0] == '-' || word[0] == '+') ? 1 : 0;
-  if (first == word.size()) return false;
-  return std::all_of(word.begin() + static_cast<std::ptrdiff_t>(first), word.end(), IsDigit);
-}
-
-// Decimal conversion that saturates at the 32-bit limits, as the runtime's
-// conversion of an overlong number does.
-int32_t NumberValue(std::string_view word) {
+// Every character a digit, where the first may be a sign. An overlong
+// number saturates at the 32-bit limits, as the runtime's conversion does.
+bool ReadNumber(std::string_view word, int32_t& value) {
   const bool negative = word[0] == '-';
-  const size_t first = (word[0] == '-' || word[0] == '+') ? 1 : 0;
+  const size_t first = (negative || word[0] == '+') ? 1 : 0;
+  if (first == word.size()) return false;
   const int64_t limit = negative ? 2147483648LL : 2147483647LL;
   int64_t magnitude = 0;
   for (size_t i = first; i < word.size(); ++i) {
+    if (word[i] < '0' || word[i] > '9') return false;
     magnitude = std::min(limit, magnitude * 10 + (word[i] - '0'));
   }
-  return static_cast<int32_t>(negative ? -magnitude : magnitude);
+  value = static_cast<int32_t>(negative ? -magnitude : magnitude);
+  return true;
 }
 
 cCodeToken CellToken(eCodeToken kind, int32_t& cell, int32_t minValue, int32_t maxValue) {
@@ -66,12 +61,9 @@ bool MakeToken(std::string_view word, int32_t& cell, cCodeToken& token) {
     token.index = row;
     return true;
   }
-  if (!IsNumberWord(word)) {
-    RaiseCodeError(eCodeError::UnknownConstant, word);
-    return false;
-  }
-  token.value = NumberValue(word);
-  return true;
+  if (ReadNumber(word, token.value)) return true;
+  RaiseCodeError(eCodeError::UnknownConstant, word);
+  return false;
 }
 
 }  // namespace

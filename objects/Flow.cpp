@@ -68,7 +68,10 @@ bool cEdFlow::operator==(const cEdFlow& other) const {
 }
 
 bool cEdFlow::IsEmpty() const {
-  return m_strMemo.empty() && m_nFlowId == 0 && m_nFlowGroup == 0 && m_nTrigger == 0 && m_vCond.empty() &&
+  // A flow that carries anything the author set is kept, the test-play mark
+  // included.
+  return m_strMemo.empty() && m_nFlowId == 0 && m_nFlowGroup == 0 && m_nTrigger == 0 && m_bTestOnly == 0 &&
+         m_vCond.empty() &&
          m_vKeyCond.empty() && m_vCmd.empty();
 }
 

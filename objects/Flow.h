@@ -38,7 +38,7 @@ class cEdFlow : public cSaveData {
   void VisitNested(cNestedVisitor& visitor) const override;
   bool operator==(const cEdFlow& other) const;
 
-  // Nothing in it at all, not even a memo: its owner drops it.
+  // Nothing in it at all, not even a memo or a mark: its owner drops it.
   bool IsEmpty() const;
   void CheckFlow();
 

@@ -26,9 +26,15 @@ void cCommonVarFile::Load(cDataFile& file) {
 void cCommonVarFile::Save(cDataFile& file) { SaveVector(m_vVar, file); }
 
 bool LoadCommonVars(const std::string& storedPath) {
-  cCommonVarFile file;
-  if (!file.LoadFile(storedPath)) return false;
-  g_vecCommonVar = std::move(file.m_vVar);
+  DataFilePtr file = OpenRead(storedPath);
+  if (!file) return false;
+  cCommonVarFile names;
+  names.Load(*file);
+  const bool damaged = file->Damaged();
+  CloseData(file);
+  // A damaged file must not wipe the names the editor holds.
+  if (damaged) return false;
+  g_vecCommonVar = std::move(names.m_vVar);
   return true;
 }
 

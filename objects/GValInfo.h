@@ -24,7 +24,8 @@ class cCommonVarFile : public cSaveData {
   void VisitNested(cNestedVisitor& visitor) const override { VisitVector(visitor, "m_vVar", m_vVar); }
 };
 
-// False when the file could not be read; the list then stays as it was.
+// False when the file is missing, too new or damaged; the list then stays
+// as it was.
 bool LoadCommonVars(const std::string& storedPath = PathOf(ePath::GValInfo));
 bool SaveCommonVars(const std::string& storedPath = PathOf(ePath::GValInfo));
 

@@ -4,10 +4,10 @@
 
 #include "core/EditConfig.h"
 #include "core/PrjOption.h"
-#include "inspect/StagePaletteFile.h"
-#include "objects/Palette.h"
 #include "core/SheetSize.h"
+#include "inspect/StagePaletteFile.h"
 #include "objects/GValInfo.h"
+#include "objects/Palette.h"
 
 namespace velmora::inspect {
 namespace {
@@ -44,7 +44,7 @@ const std::vector<cFileKind>& FileKinds() {
       {"PrjOption", "PrjOption.dat", &cRecordFile<PrjOption>::Load},
       {"CommonPalette", "*.cplt4", &cRecordFile<cPalette>::Load},
       {"StagePalette", "*.plt4", &LoadStagePaletteFile},
-      {"GValInfo", "GValInfo.dat", cRecordFile<cCommonVarFile>::Load},
+      {"GValInfo", "GValInfo.dat", &cRecordFile<cCommonVarFile>::Load},
   };
   return kinds;
 }

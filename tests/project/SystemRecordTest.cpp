@@ -94,7 +94,7 @@ TEST_F(SystemRecordTest, Version150FileIsBroughtUpToTodaysLayout) {
   // Fields the file lacks keep the old behaviour.
   EXPECT_EQ(1, s.m_b1UpOnClear);
   EXPECT_EQ(0, s.m_bTitleImage);
-  EXPECT_EQ(1, s.m_bStoryHighScore + s.m_bStoryTotalScore + s.m_bChallHighScore + s.m_bChallTotalScore - 3);
+  EXPECT_EQ(4, s.m_bStoryHighScore + s.m_bStoryTotalScore + s.m_bChallHighScore + s.m_bChallTotalScore);
   EXPECT_EQ(0, s.m_bStoryRetry);
   EXPECT_EQ(177, s.m_cKeyG);
   EXPECT_EQ(1, s.m_bColorAnime);

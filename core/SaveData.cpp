@@ -97,22 +97,8 @@ void ReadStringBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& 
   if (!file.ReadInt32(entries)) return;
   for (int32_t i = 0; i < entries; ++i) {
     if (!EntryInRange(layout.strings, i, file)) return;
-    int32_t length = 0;
-    if (!file.ReadInt32(length)) return;
     const cSaveString& entry = layout.strings[static_cast<size_t>(i)];
-    std::string* target = entry.dropped ? &g_strDropped : At<std::string>(record, entry.offset);
-    if (length == 1) {
-      target->clear();
-      continue;
-    }
-    if (length < 1 || static_cast<uint64_t>(length) > file.Remaining()) {
-      file.MarkDamaged();
-      return;
-    }
-    std::string buffer(static_cast<size_t>(length), '\0');
-    if (!file.Read(buffer.data(), buffer.size())) return;
-    buffer.resize(std::strlen(buffer.c_str()));
-    *target = std::move(buffer);
+    if (!ReadStreamString(file, entry.dropped ? g_strDropped : *At<std::string>(record, entry.offset))) return;
   }
 }
 
@@ -238,12 +224,33 @@ void cSaveData::Save(cDataFile& file) {
   }
   file.WriteInt32(static_cast<int32_t>(layout.strings.size()));
   for (const cSaveString& entry : layout.strings) {
-    std::string& text = entry.dropped ? g_strDropped : *At<std::string>(this, entry.offset);
-    CutForBuffer(text);
-    const int32_t length = static_cast<int32_t>(text.size()) + 1;
-    file.WriteInt32(length);
-    if (length != 1) file.Write(text.c_str(), static_cast<size_t>(length));
+    WriteStreamString(file, entry.dropped ? g_strDropped : *At<std::string>(this, entry.offset));
   }
+}
+
+bool ReadStreamString(cDataFile& file, std::string& target) {
+  int32_t length = 0;
+  if (!file.ReadInt32(length)) return false;
+  if (length == 1) {
+    target.clear();
+    return true;
+  }
+  if (length < 1 || static_cast<uint64_t>(length) > file.Remaining()) {
+    file.MarkDamaged();
+    return false;
+  }
+  std::string buffer(static_cast<size_t>(length), '\0');
+  if (!file.Read(buffer.data(), buffer.size())) return false;
+  buffer.resize(std::strlen(buffer.c_str()));
+  target = std::move(buffer);
+  return true;
+}
+
+void WriteStreamString(cDataFile& file, std::string& text) {
+  CutForBuffer(text);
+  const int32_t length = static_cast<int32_t>(text.size()) + 1;
+  file.WriteInt32(length);
+  if (length != 1) file.Write(text.c_str(), static_cast<size_t>(length));
 }
 
 int cSaveData::LoadFile(const std::string& name) {

@@ -4,7 +4,7 @@
 namespace velmora {
 
 // The database lists that commands refer to by row.
-enum class eDbList { AnimeSet, Anime, BmpCharaExc, SwordType, Effect, CharaEffect, ScrEffect, Picture, Sound, Bgm };
+enum class eDbList { AnimeSet, Anime, BmpCharaExc, SwordType, Effect, CharaEffect, ScrEffect, Picture, Sound, Bgm, Count };
 enum class ePalette { Common, Stage };
 enum class ePaletteList { Block, Chara, Item };
 

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "core/ProjectPaths.h"
+#include "objects/RefSizes.h"
 #include "project/AnimeRecords.h"
 #include "project/DatabaseList.h"
 #include "project/EffectRecords.h"
@@ -11,8 +12,7 @@
 
 namespace velmora {
 
-// The ten lists, in load and save order.
-enum class eDbList { AnimeSet, Anime, CharaBmp, SwordType, Effect, CharaEffect, ScrEffect, Picture, Sound, Bgm, Count };
+// The ten lists, in load and save order (eDbList).
 inline constexpr int kDbListCount = static_cast<int>(eDbList::Count);
 
 struct cDbListInfo {

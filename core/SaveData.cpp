@@ -38,8 +38,17 @@ struct cLayoutKey {
   }
 };
 
-std::mutex g_layoutLock;
-std::map<cLayoutKey, std::unique_ptr<cRecordLayout>> g_layouts;
+// Function statics, so that a record built during static initialisation
+// (a process-wide settings object) finds the table ready.
+std::mutex& LayoutLock() {
+  static std::mutex lock;
+  return lock;
+}
+
+std::map<cLayoutKey, std::unique_ptr<cRecordLayout>>& Layouts() {
+  static std::map<cLayoutKey, std::unique_ptr<cRecordLayout>> layouts;
+  return layouts;
+}
 
 // The one-entry memo in front of the shared table: records are mostly read
 // and written in runs of one class.
@@ -153,15 +162,15 @@ const cRecordLayout& cSaveData::Layout(uint32_t version) const {
   const cLayoutKey key{std::type_index(type), version, variant};
   const cRecordLayout* layout = nullptr;
   {
-    std::lock_guard<std::mutex> guard(g_layoutLock);
-    auto found = g_layouts.find(key);
-    if (found != g_layouts.end()) layout = found->second.get();
+    std::lock_guard<std::mutex> guard(LayoutLock());
+    auto found = Layouts().find(key);
+    if (found != Layouts().end()) layout = found->second.get();
   }
   if (!layout) {
     // Built outside the lock: a Register may construct other records.
     auto built = cLayoutBuilder::Build(*this, version);
-    std::lock_guard<std::mutex> guard(g_layoutLock);
-    auto [it, inserted] = g_layouts.try_emplace(key, std::move(built));
+    std::lock_guard<std::mutex> guard(LayoutLock());
+    auto [it, inserted] = Layouts().try_emplace(key, std::move(built));
     layout = it->second.get();
   }
   t_memo = {&type, version, variant, layout};

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "core/ProjectPaths.h"
+#include "objects/RefSizes.h"
 #include "project/AnimeRecords.h"
 #include "project/DatabaseList.h"
 #include "project/EffectRecords.h"
@@ -11,9 +12,8 @@
 
 namespace velmora {
 
-// The ten lists, in load and save order.
-enum class eDbList { AnimeSet, Anime, CharaBmp, SwordType, Effect, CharaEffect, ScrEffect, Picture, Sound, Bgm, Count };
-inline constexpr int kDbListCount = static_cast<int>(eDbList::Count);
+// The ten lists of eDbList, in load and save order.
+inline constexpr int kDbListCount = static_cast<int>(eDbList::Bgm) + 1;
 
 struct cDbListInfo {
   ePath file;         // under data\database\ .

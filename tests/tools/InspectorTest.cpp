@@ -51,3 +51,26 @@ TEST(InspectorTest, CommandsExplainBadUse) {
 
 }  // namespace
 }  // namespace velmora
+
+#include "objects/Palette.h"
+
+namespace velmora {
+namespace {
+
+TEST(InspectorTest, ResaveWritesAPaletteByteForByteAndDumpNamesItsLists) {
+  testing::cTempProject project;
+  cPalette palette;
+  palette.m_vecCharaPlt.resize(3);
+  palette.m_vecCharaPlt[2].m_strName = "hero";
+  ASSERT_EQ(1, palette.SaveFile("p.cplt4"));
+  std::string out, err;
+  ASSERT_EQ(0, inspect::RunInspector({"resave", "p.cplt4", "q.cplt4"}, out, err)) << err;
+  EXPECT_EQ(testing::ReadBytes("p.cplt4"), testing::ReadBytes("q.cplt4"));
+  ASSERT_EQ(0, inspect::RunInspector({"dump", "q.cplt4"}, out, err)) << err;
+  EXPECT_NE(std::string::npos, out.find("\"kind\": \"CommonPalette\""));
+  EXPECT_NE(std::string::npos, out.find("\"m_vecCharaPlt\": ["));
+  EXPECT_NE(std::string::npos, out.find("\"m_strName\": \"hero\""));
+}
+
+}  // namespace
+}  // namespace velmora

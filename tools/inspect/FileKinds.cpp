@@ -3,8 +3,12 @@
 #include <strings.h>
 
 #include "core/EditConfig.h"
+#include "core/PrjOption.h"
 #include "core/ProjectPaths.h"
 #include "core/SheetSize.h"
+#include "inspect/StagePaletteFile.h"
+#include "objects/GValInfo.h"
+#include "objects/Palette.h"
 #include "project/Database.h"
 #include "project/SystemRecord.h"
 #include "project/WorldMap.h"
@@ -60,6 +64,10 @@ const std::vector<cFileKind>& FileKinds() {
       {"Bgm", "Bgm.dat", &cRecordFile<cDbList<cEdBgm>>::Load},
       {"WorldMap", "WorldMap.dat", &cRecordFile<cEdWorldMap>::Load},
       {"System", "System.dat", &LoadSystem},
+      {"PrjOption", "PrjOption.dat", &cRecordFile<PrjOption>::Load},
+      {"CommonPalette", "*.cplt4", &cRecordFile<cPalette>::Load},
+      {"StagePalette", "*.plt4", &LoadStagePaletteFile},
+      {"GValInfo", "GValInfo.dat", &cRecordFile<cCommonVarFile>::Load},
   };
   return kinds;
 }

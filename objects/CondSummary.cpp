@@ -5,14 +5,16 @@
 #include "objects/GValInfo.h"
 #include "objects/ObjectList.h"
 #include "objects/StatusTables.h"
+#include "objects/code/VarCombo.h"
 
 namespace velmora {
 namespace {
 
 const char* Object(int row) { return ObjectLabel(CurrentObjectContext(), row); }
 
+// A variable as its combo row shows it: the number and the name.
 void AppendVariable(std::string& text, const char* format, int scope, int number) {
-  AppendFormat(text, SysText(format), VarNumberText(number).c_str(), VarName(scope, number).c_str());
+  AppendFormat(text, SysText(format), VarComboRowText(number, VarName(scope, number)).c_str());
 }
 
 // One side of a status condition that names a status of a character; the
@@ -30,7 +32,7 @@ void AppendStatusSide(std::string& text, int object, int status, int charaVar, i
 
 void AppendStatusLeft(std::string& text, const cEdCond& c) {
   if (c.m_nLeftType == 1) {
-    AppendVariable(text, " 「%s %s」が", c.m_nLeftScope, c.m_nLeftVar);
+    AppendVariable(text, " 「%s」が", c.m_nLeftScope, c.m_nLeftVar);
   } else if (c.m_nLeftType == 0 && c.m_nLeftObject == kObjectSystem) {
     AppendFormat(text, SysText(" %s が"), StatusLabel(SystemStatusTable, c.m_nLeftStatus));
   } else if (c.m_nLeftType == 0) {
@@ -54,7 +56,7 @@ void AppendStatusRight(std::string& text, const cEdCond& c) {
       }
       break;
     case 3:
-      AppendVariable(text, " 「%s %s」", c.m_nRightScope, c.m_nRightVar);
+      AppendVariable(text, " 「%s」", c.m_nRightScope, c.m_nRightVar);
       break;
     default:
       break;
@@ -91,7 +93,7 @@ std::string CondSummaryText(const cEdCond& c) {
   switch (c.m_nKind) {
     case kCondCommonVar:
     case kCondStageVar:
-      AppendVariable(text, " ： 「%s %s」 が", c.m_nKind == kCondCommonVar ? kScopeCommon : kScopeStage,
+      AppendVariable(text, " ： 「%s」 が", c.m_nKind == kCondCommonVar ? kScopeCommon : kScopeStage,
                      c.m_nLeftVar);
       AppendFormat(text, " %d %s", c.m_nValue, CondRelationTable.Label(c.m_nRelation));
       break;

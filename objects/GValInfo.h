@@ -36,8 +36,5 @@ void SetStageVarList(const std::vector<cStageVar>* names);
 
 // The name of variable `number` of a scope; "" when there is none.
 const std::string& VarName(int scope, int number);
-// The number zero-padded to three digits, as every list of variables
-// shows it ("007").
-std::string VarNumberText(int number);
 
 }  // namespace velmora

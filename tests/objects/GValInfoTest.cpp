@@ -45,11 +45,5 @@ TEST(CommonVars, AMissingOrDamagedFileLeavesTheNamesAsTheyWere) {
   g_vecCommonVar.clear();
 }
 
-TEST(VarNumbers, AtLeastThreeDigits) {
-  EXPECT_EQ(VarNumberText(7), "007");
-  EXPECT_EQ(VarNumberText(123), "123");
-  EXPECT_EQ(VarNumberText(1000), "1000");
-}
-
 }  // namespace
 }  // namespace velmora::testing

@@ -52,6 +52,10 @@ const std::vector<cFileKind>& FileKinds() {
   static const std::vector<cFileKind> kinds = {
       {"EditConfig", "EditConfig.dat", &cRecordFile<EditConfig>::Load},
       {"SheetSize", "SheetSize.dat", &cRecordFile<SheetSize>::Load},
+      {"PrjOption", "PrjOption.dat", &cRecordFile<PrjOption>::Load},
+      {"CommonPalette", "*.cplt4", &cRecordFile<cPalette>::Load},
+      {"StagePalette", "*.plt4", &LoadStagePaletteFile},
+      {"GValInfo", "GValInfo.dat", &cRecordFile<cCommonVarFile>::Load},
       {"AnimeSet", "AnimeSet.dat", &cRecordFile<cDbList<cEdAnimeSet>>::Load},
       {"Anime", "Anime.dat", &cRecordFile<cDbList<cEdAnime>>::Load},
       {"CharaBmp", "Bmp_CharaExc.dat", &cRecordFile<cDbList<cEdCharaBmp>>::Load},
@@ -64,10 +68,6 @@ const std::vector<cFileKind>& FileKinds() {
       {"Bgm", "Bgm.dat", &cRecordFile<cDbList<cEdBgm>>::Load},
       {"WorldMap", "WorldMap.dat", &cRecordFile<cEdWorldMap>::Load},
       {"System", "System.dat", &LoadSystem},
-      {"PrjOption", "PrjOption.dat", &cRecordFile<PrjOption>::Load},
-      {"CommonPalette", "*.cplt4", &cRecordFile<cPalette>::Load},
-      {"StagePalette", "*.plt4", &LoadStagePaletteFile},
-      {"GValInfo", "GValInfo.dat", &cRecordFile<cCommonVarFile>::Load},
   };
   return kinds;
 }

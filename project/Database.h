@@ -12,8 +12,8 @@
 
 namespace velmora {
 
-// The ten lists, in load and save order (eDbList).
-inline constexpr int kDbListCount = static_cast<int>(eDbList::Count);
+// The ten lists of eDbList, in load and save order.
+inline constexpr int kDbListCount = static_cast<int>(eDbList::Bgm) + 1;
 
 struct cDbListInfo {
   ePath file;         // under data\database\ .

@@ -4,11 +4,11 @@
 
 #include "core/EditConfig.h"
 #include "core/PrjOption.h"
+#include "core/ProjectPaths.h"
 #include "core/SheetSize.h"
 #include "inspect/StagePaletteFile.h"
 #include "objects/GValInfo.h"
 #include "objects/Palette.h"
-#include "core/ProjectPaths.h"
 #include "project/Database.h"
 #include "project/SystemRecord.h"
 #include "project/WorldMap.h"

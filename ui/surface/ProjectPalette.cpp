@@ -4,6 +4,7 @@ namespace velmora {
 namespace {
 
 cColourTable g_palette{};
+cColourTable g_sourcePalette{};
 int g_transparentIndex = 0;
 int g_solidIndex = 0;
 
@@ -18,6 +19,7 @@ int FirstIndexOf(cColourRef colour) {
 }  // namespace
 
 cColourTable& ProjectPalette() { return g_palette; }
+cColourTable& SourcePalette() { return g_sourcePalette; }
 
 int TransparentIndex() { return g_transparentIndex; }
 int SolidIndex() { return g_solidIndex; }

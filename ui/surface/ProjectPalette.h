@@ -7,6 +7,9 @@ namespace velmora {
 // at project open. Every 8-bit picture shows with it, whatever table its
 // own file holds.
 cColourTable& ProjectPalette();
+// The palette of "bmp\plt\Palette2.bmp", read beside it: the colours that
+// the bitmap conversion matches pictures against.
+cColourTable& SourcePalette();
 
 // Index of the first entry whose colour is the given one (0 when none is);
 // the mask builder and the masked copies work with these.

@@ -28,6 +28,9 @@ struct cSurfaceSpec {
 
 inline constexpr const char* kBlankSurfaceMarker = "E";
 
+// Why a load failed, for callers that report in words of their own.
+enum class eSurfaceLoad { Ok, CannotRead, UnsupportedDepth, OutOfMemory };
+
 // Pen styles as the drawing calls number them.
 enum ePenStyle { kPenSolid = 0, kPenDash = 1, kPenDot = 2, kPenDashDot = 3, kPenDashDotDot = 4, kPenNull = 5 };
 // Background modes of DrawText.
@@ -51,11 +54,17 @@ class cSurface {
   cSurface(const cSurface&) = delete;
   cSurface& operator=(const cSurface&) = delete;
 
+  // Reports a failure in a box (the out-of-memory stop for a failed
+  // allocation) and gives false.
   bool Load(const cSurfaceSpec& spec);
+  // The same without any report.
+  eSurfaceLoad TryLoad(const cSurfaceSpec& spec);
   bool LoadSimple(const std::string& name, int depth, int bMask, int cellWidth, int cellHeight, int blankWidth,
                   int blankHeight, int divisor);
-  // Load from the bytes of a bitmap file; `spec.name` names it in messages.
-  bool LoadFromMemory(const cSurfaceSpec& spec, const uint8_t* data, size_t size);
+  // Load from the bytes of a bitmap file, without any report.
+  eSurfaceLoad TryLoadFromMemory(const cSurfaceSpec& spec, const uint8_t* data, size_t size);
+  // A surface made of a block of another, mask included.
+  bool CopyRegionOf(const cSurface& source, int sx, int sy, int w, int h);
   // A new white surface; gives false for a bad size or depth.
   bool CreateSurface(int width, int height, int depth, bool bMask, int cellWidth = 0, int cellHeight = 0);
   void Free();

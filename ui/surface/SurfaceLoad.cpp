@@ -6,6 +6,7 @@
 #include "core/SystemText.h"
 #include "ui/surface/BitmapFile.h"
 #include "ui/surface/ProjectPalette.h"
+#include "ui/surface/Raster.h"
 #include "ui/surface/Surface.h"
 
 namespace velmora {
@@ -56,28 +57,40 @@ void MirrorBlock(cPixelImage& image, int x, int y, int w, int h, bool horizontal
 
 }  // namespace
 
-bool cSurface::Load(const cSurfaceSpec& given) {
-  cSurfaceSpec spec = given;
-  spec.divisor = std::max(spec.divisor, 1);
+bool cSurface::Load(const cSurfaceSpec& spec) {
+  switch (TryLoad(spec)) {
+    case eSurfaceLoad::Ok:
+      return true;
+    case eSurfaceLoad::CannotRead:
+      ReportCannotRead(spec.name);
+      return false;
+    case eSurfaceLoad::UnsupportedDepth:
+      ReportUnsupportedDepth(spec.name);
+      return false;
+    case eSurfaceLoad::OutOfMemory:
+      StopOutOfMemory();
+      return false;
+  }
+  return false;
+}
+
+eSurfaceLoad cSurface::TryLoad(const cSurfaceSpec& spec) {
   Free();
   if (spec.name.empty() || spec.name == kBlankSurfaceMarker) {
-    if (CreateSurface(spec.blankWidth, spec.blankHeight, spec.depth, spec.bMask != 0)) return true;
-    ReportCannotRead(spec.name);
-    return false;
+    bool made = CreateSurface(spec.blankWidth, spec.blankHeight, spec.depth, spec.bMask != 0);
+    return made ? eSurfaceLoad::Ok : eSurfaceLoad::CannotRead;
   }
   cFileBytes file;
   switch (ReadWholeFile(spec.name, file)) {
     case eReadResult::Ok:
-      return LoadFromMemory(spec, file.data.get(), file.size);
+      return TryLoadFromMemory(spec, file.data.get(), file.size);
     case eReadResult::OutOfMemory:
-      StopOutOfMemory();
-      return false;
+      return eSurfaceLoad::OutOfMemory;
     case eReadResult::Missing:
     case eReadResult::TooLarge:
       break;
   }
-  ReportCannotRead(spec.name);
-  return false;
+  return eSurfaceLoad::CannotRead;
 }
 
 bool cSurface::LoadSimple(const std::string& name, int depth, int bMask, int cellWidth, int cellHeight,
@@ -94,27 +107,33 @@ bool cSurface::LoadSimple(const std::string& name, int depth, int bMask, int cel
   return Load(spec);
 }
 
-bool cSurface::LoadFromMemory(const cSurfaceSpec& given, const uint8_t* data, size_t size) {
+eSurfaceLoad cSurface::TryLoadFromMemory(const cSurfaceSpec& given, const uint8_t* data, size_t size) {
   cSurfaceSpec spec = given;
   spec.divisor = std::max(spec.divisor, 1);
   Free();
   cBitmapHeader header;
-  if (!ParseBitmapHeader(data, size, header)) {
-    ReportCannotRead(spec.name);
-    return false;
-  }
-  if (!cPixelImage::IsSupportedDepth(header.bitCount)) {
-    ReportUnsupportedDepth(spec.name);
-    return false;
-  }
+  if (!ParseBitmapHeader(data, size, header)) return eSurfaceLoad::CannotRead;
+  if (!cPixelImage::IsSupportedDepth(header.bitCount)) return eSurfaceLoad::UnsupportedDepth;
   if (!LoadPixels(spec, header, data, size)) {
     Free();
-    ReportCannotRead(spec.name);
-    return false;
+    return eSurfaceLoad::CannotRead;
   }
   MirrorCells();
   if (spec.bMask) BuildMask();
   if (Depth() != 8) BlackenTransparent();
+  return eSurfaceLoad::Ok;
+}
+
+bool cSurface::CopyRegionOf(const cSurface& source, int sx, int sy, int w, int h) {
+  if (!source.IsLoaded() || !CreateSurface(w, h, source.Depth(), source.HasMask())) return false;
+  // Parts beyond the source stay as nothing: a black image under a white
+  // mask, which the masked copy leaves alone.
+  for (int y = 0; y < h; ++y) {
+    std::memset(m_image.Row(y), 0, static_cast<size_t>(m_image.Stride()));
+    if (HasMask()) std::memset(m_mask.Row(y), 0xFF, static_cast<size_t>(m_mask.Stride()));
+  }
+  BlitImage(m_image, 0, 0, w, h, source.m_image, sx, sy, eRop::Copy);
+  if (HasMask()) BlitImage(m_mask, 0, 0, w, h, source.m_mask, sx, sy, eRop::Copy);
   return true;
 }
 

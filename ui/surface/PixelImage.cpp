@@ -18,8 +18,12 @@ bool cPixelImage::Create(int width, int height, int depth, const cColourTable& t
   m_depth = depth;
   m_stride = stride;
   m_table = table;
-  std::memset(m_pixels.get(), 0, bytes);
-  FillRect(0, 0, width, height, Encode(Rgb(255, 255, 255)));
+  for (size_t i = 0; i < table.size(); ++i) {
+    m_trueColours[i] = table[i].blue | (uint32_t{table[i].green} << 8) | (uint32_t{table[i].red} << 16);
+  }
+  const cPixelValue white = Encode(Rgb(255, 255, 255));
+  if (depth == 32) FillRect(0, 0, width, height, white);
+  else std::memset(m_pixels.get(), white.bytes[0], bytes);
   return true;
 }
 
@@ -48,7 +52,9 @@ cPixelValue cPixelImage::Encode(cColourRef colour) const {
 }
 
 void cPixelImage::PutPixel(int x, int y, const cPixelValue& value) {
-  if (Contains(x, y)) std::memcpy(Pixel(x, y), value.bytes, static_cast<size_t>(value.size));
+  if (!Contains(x, y)) return;
+  uint8_t* p = Pixel(x, y);
+  for (int i = 0; i < value.size; ++i) p[i] = value.bytes[i];
 }
 
 void cPixelImage::FillRect(int x, int y, int w, int h, const cPixelValue& value) {
@@ -57,14 +63,15 @@ void cPixelImage::FillRect(int x, int y, int w, int h, const cPixelValue& value)
   int right = static_cast<int>(std::min<long long>(static_cast<long long>(x) + w, m_width));
   int bottom = static_cast<int>(std::min<long long>(static_cast<long long>(y) + h, m_height));
   if (left >= right || top >= bottom) return;
-  for (int row = top; row < bottom; ++row) {
-    uint8_t* p = Pixel(left, row);
-    if (value.size == 1) {
-      std::memset(p, value.bytes[0], static_cast<size_t>(right - left));
-      continue;
-    }
-    for (int col = left; col < right; ++col, p += value.size) std::memcpy(p, value.bytes, static_cast<size_t>(value.size));
+  // The first row pixel by pixel, every other row as a copy of it.
+  uint8_t* first = Pixel(left, top);
+  const size_t bytes = static_cast<size_t>(right - left) * static_cast<size_t>(value.size);
+  if (value.size == 1) {
+    std::memset(first, value.bytes[0], bytes);
+  } else {
+    for (size_t i = 0; i < bytes; ++i) first[i] = value.bytes[i % static_cast<size_t>(value.size)];
   }
+  for (int row = top + 1; row < bottom; ++row) std::memcpy(Pixel(left, row), first, bytes);
 }
 
 }  // namespace velmora

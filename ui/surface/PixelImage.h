@@ -1,4 +1,5 @@
 #pragma once
+#include <array>
 #include <cstdint>
 #include <memory>
 
@@ -12,6 +13,10 @@ struct cPixelValue {
   uint8_t bytes[4] = {0, 0, 0, 0};
   int size = 1;
 };
+
+// The colours of an 8-bit image's table as 32-bit pixels (blue in the low
+// byte), for fast copies into true colour.
+using cTrueColourTable = std::array<uint32_t, 256>;
 
 // A top-down pixel buffer of 8, 24 or 32 bits a pixel whose rows are padded
 // to 4 bytes, the way bitmap files pad them, so that file rows copy straight
@@ -39,6 +44,7 @@ class cPixelImage {
   uint8_t* Pixel(int x, int y) { return Row(y) + x * BytesPerPixel(); }
   const uint8_t* Pixel(int x, int y) const { return Row(y) + x * BytesPerPixel(); }
   const cColourTable& Table() const { return m_table; }
+  const cTrueColourTable& TrueColours() const { return m_trueColours; }
   bool Contains(int x, int y) const { return x >= 0 && y >= 0 && x < m_width && y < m_height; }
 
   cColourRef ColourAt(int x, int y) const;
@@ -57,6 +63,7 @@ class cPixelImage {
   int m_depth = 0;
   int m_stride = 0;
   cColourTable m_table{};
+  cTrueColourTable m_trueColours{};
 };
 
 }  // namespace velmora

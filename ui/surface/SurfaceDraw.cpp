@@ -92,7 +92,9 @@ void cSurface::Line(int x1, int y1, int x2, int y2) {
   long long x = x1;
   long long y = y1;
   for (int n = 0; x != x2 || y != y2; ++n) {
-    if (OnDash(pattern, n)) {
+    if (OnDash(pattern, n) && width == 1) {
+      m_image.PutPixel(static_cast<int>(x), static_cast<int>(y), ink);
+    } else if (OnDash(pattern, n)) {
       m_image.FillRect(static_cast<int>(x) - half, static_cast<int>(y) - half, width, width, ink);
     } else if (!m_transparentBackground) {
       m_image.PutPixel(static_cast<int>(x), static_cast<int>(y), paper);

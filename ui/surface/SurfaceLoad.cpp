@@ -28,6 +28,10 @@ int ScaledSide(int side, int alignment, int divisor) {
 
 // Reverses `count` pixels of `size` bytes in place.
 void ReversePixels(uint8_t* first, int count, int size) {
+  if (size == 1) {
+    std::reverse(first, first + count);
+    return;
+  }
   uint8_t swap[4];
   for (int i = 0, j = count - 1; i < j; ++i, --j) {
     uint8_t* a = first + i * size;

@@ -1,7 +1,8 @@
 #include "ui/surface/IndexedPainter.h"
 
 #include <array>
-#include <cstdlib>
+
+#include "ui/surface/LineWalk.h"
 
 namespace velmora {
 namespace {
@@ -70,24 +71,7 @@ void cIndexedPainter::Ring(int cx, int cy, int radius, int index) {
 }
 
 void cIndexedPainter::Line(int x1, int y1, int x2, int y2, int index) {
-  const int dx = std::abs(x2 - x1);
-  const int dy = -std::abs(y2 - y1);
-  const int sx = x1 < x2 ? 1 : -1;
-  const int sy = y1 < y2 ? 1 : -1;
-  int error = dx + dy;
-  for (;;) {
-    Dot(x1, y1, index);
-    if (x1 == x2 && y1 == y2) return;
-    const int twice = 2 * error;
-    if (twice >= dy) {
-      error += dy;
-      x1 += sx;
-    }
-    if (twice <= dx) {
-      error += dx;
-      y1 += sy;
-    }
-  }
+  WalkLine(x1, y1, x2, y2, true, [&](int x, int y, int) { Dot(x, y, index); });
 }
 
 void cIndexedPainter::Text(int x, int y, const std::string& text, int index, int scale) {

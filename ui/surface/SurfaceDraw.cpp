@@ -1,9 +1,9 @@
 #include <array>
 #include <cstdarg>
 #include <cstdio>
-#include <cstdlib>
 #include <vector>
 
+#include "ui/surface/LineWalk.h"
 #include "ui/surface/Raster.h"
 #include "ui/surface/Surface.h"
 
@@ -84,31 +84,15 @@ void cSurface::Line(int x1, int y1, int x2, int y2) {
   const cPixelValue ink = m_image.Encode(m_pen.colour);
   const cPixelValue paper = m_image.Encode(kWhite);
   const int half = (width - 1) / 2;
-  const long long dx = std::llabs(static_cast<long long>(x2) - x1);
-  const long long dy = -std::llabs(static_cast<long long>(y2) - y1);
-  const int stepX = x1 < x2 ? 1 : -1;
-  const int stepY = y1 < y2 ? 1 : -1;
-  long long error = dx + dy;
-  long long x = x1;
-  long long y = y1;
-  for (int n = 0; x != x2 || y != y2; ++n) {
-    if (OnDash(pattern, n) && width == 1) {
-      m_image.PutPixel(static_cast<int>(x), static_cast<int>(y), ink);
-    } else if (OnDash(pattern, n)) {
-      m_image.FillRect(static_cast<int>(x) - half, static_cast<int>(y) - half, width, width, ink);
-    } else if (!m_transparentBackground) {
-      m_image.PutPixel(static_cast<int>(x), static_cast<int>(y), paper);
+  WalkLine(x1, y1, x2, y2, false, [&](int x, int y, int n) {
+    if (!OnDash(pattern, n)) {
+      if (!m_transparentBackground) m_image.PutPixel(x, y, paper);
+    } else if (width == 1) {
+      m_image.PutPixel(x, y, ink);
+    } else {
+      m_image.FillRect(x - half, y - half, width, width, ink);
     }
-    const long long twice = 2 * error;
-    if (twice >= dy) {
-      error += dy;
-      x += stepX;
-    }
-    if (twice <= dx) {
-      error += dx;
-      y += stepY;
-    }
-  }
+  });
 }
 
 void cSurface::Box(int x, int y, int w, int h) {

@@ -78,7 +78,9 @@ std::array<uint8_t, 256> MapColours(const uint8_t* inputTable, const cConvertOpt
 cColourTable OutputTable(const cColourTable& projectPalette, const cColourTable& sourcePalette) {
   cColourTable table = sourcePalette;
   for (const cEntryRange& range : kProjectEntries) {
-    for (int i = range.first; i <= range.last; ++i) table[static_cast<size_t>(i)] = projectPalette[static_cast<size_t>(i)];
+    for (int i = range.first; i <= range.last; ++i) {
+      table[static_cast<size_t>(i)] = projectPalette[static_cast<size_t>(i)];
+    }
   }
   return table;
 }

@@ -15,7 +15,8 @@ constexpr size_t kRows = 54 + 1024;
 cColourTable SourceColours() {
   cColourTable table{};
   for (int i = 1; i < 255; ++i) {
-    table[static_cast<size_t>(i)] = cRgbQuad{static_cast<uint8_t>(i), static_cast<uint8_t>(i * 3), static_cast<uint8_t>(255 - i), 0};
+    const auto v = static_cast<uint8_t>(i);
+    table[static_cast<size_t>(i)] = cRgbQuad{v, static_cast<uint8_t>(v * 3), static_cast<uint8_t>(255 - v), 0};
   }
   table[255] = cRgbQuad{255, 255, 255, 0};
   table[41] = table[40];
@@ -60,8 +61,11 @@ TEST_F(BitmapConvert, EveryColourFindsItsPlace) {
   const cColourTable source = SourceColours();
   cRgbQuad nearHundred = source[100];
   nearHundred.green += 1;
-  //                 0 transparent, = entry 0  1 line colour  2 = entry 0  3 = entry 255  4 near 100    5 = entry 5  6 = entry 230  7 = entry 41
-  const std::vector<cRgbQuad> colours = {source[0], {60, 60, 60, 0}, source[0], source[255], nearHundred, source[5], source[230], source[41]};
+  // By colour number: 0 transparent (and equal to entry 0), 1 the line
+  // colour, then equal to entry 0, equal to entry 255, near entry 100,
+  // equal to entries 5, 230 and 41 (which repeats entry 40).
+  const std::vector<cRgbQuad> colours = {source[0], {60, 60, 60, 0}, source[0],  source[255],
+                                         nearHundred, source[5],       source[230], source[41]};
   options.replaceLineColour = true;
   options.lineColourOut = 250;
   WriteBytes("in.bmp", InputFile(colours, {0, 1, 2, 3, 4}));

@@ -82,7 +82,9 @@ void ComposeSheets() {
 
 }  // namespace
 
-const cSurfaceSpec& FixedBitmapSpec(int index) { return g_specs[static_cast<size_t>(std::clamp(index, 0, kFixedBitmapCount - 1))]; }
+const cSurfaceSpec& FixedBitmapSpec(int index) {
+  return g_specs[static_cast<size_t>(std::clamp(index, 0, kFixedBitmapCount - 1))];
+}
 
 cSurface& FixedBitmap(int index) { return At(index); }
 

@@ -79,7 +79,8 @@ void cIndexedPainter::Text(int x, int y, const std::string& text, int index, int
     if (const cGlyph* glyph = FindGlyph(c)) {
       for (int row = 0; row < 5; ++row) {
         for (int col = 0; col < 3; ++col) {
-          if (glyph->rows[static_cast<size_t>(row)] & (4 >> col)) Rect(x + col * scale, y + row * scale, scale, scale, index);
+          const bool on = glyph->rows[static_cast<size_t>(row)] & (4 >> col);
+          if (on) Rect(x + col * scale, y + row * scale, scale, scale, index);
         }
       }
     }

@@ -70,7 +70,9 @@ void DrawItemShape(cIndexedPainter& p, int cx, int cy, int r, int n, bool glint)
     case kHeart:
       p.Disc(cx - r / 2, cy - r / 3, r / 2 + 1, SampleHue(hue, 8));
       p.Disc(cx + r / 2, cy - r / 3, r / 2 + 1, SampleHue(hue, 8));
-      for (int row = 0; row <= r; ++row) p.Rect(cx - r + row, cy - r / 3 + row, 2 * (r - row) + 1, 1, SampleHue(hue, 8));
+      for (int row = 0; row <= r; ++row) {
+        p.Rect(cx - r + row, cy - r / 3 + row, 2 * (r - row) + 1, 1, SampleHue(hue, 8));
+      }
       break;
     default:
       p.Rect(cx - r, cy - r, 2 * r + 1, 2 * r + 1, SampleHue(hue, 6));

@@ -52,7 +52,9 @@ void DrawChip(cIndexedPainter& p, int x, int y, int chip) {
       break;
     case kMountain:
       p.Rect(x, y, kCell, kCell, SampleHue(kGreen, 8));
-      for (int row = 0; row < 24; ++row) p.Rect(x + 16 - row * 2 / 3, y + 4 + row, row * 4 / 3 + 1, 1, SampleGrey(6 + variant));
+      for (int row = 0; row < 24; ++row) {
+        p.Rect(x + 16 - row * 2 / 3, y + 4 + row, row * 4 / 3 + 1, 1, SampleGrey(6 + variant));
+      }
       p.Rect(x + 14, y + 4, 5, 3, SampleGrey(15));
       break;
     case kSnow:

@@ -161,7 +161,9 @@ bool cSurface::LoadPixels(const cSurfaceSpec& spec, const cBitmapHeader& header,
     return false;
   }
   const uint8_t* pixels = data + header.dataOffset;
-  auto fileRow = [&](int topDownRow) { return pixels + static_cast<size_t>(header.height - 1 - topDownRow) * fileStride; };
+  auto fileRow = [&](int topDownRow) {
+    return pixels + static_cast<size_t>(header.height - 1 - topDownRow) * fileStride;
+  };
   if (div == 1) {
     for (int y = 0; y < height; ++y) std::memcpy(m_image.Row(y), fileRow(y), fileStride);
     return true;

@@ -60,6 +60,8 @@ class cNestedVisitor {
   virtual void EndArray() = 0;
   // A record held by pointer; null when absent.
   virtual void Child(const char* name, const cSaveData* record) = 0;
+  // A nested list of plain numbers.
+  virtual void Numbers(const char* /*name*/, const std::vector<int64_t>& /*values*/) {}
 };
 
 template <class Vector>

@@ -2,6 +2,13 @@
 
 #include <strings.h>
 
+#include "core/EditConfig.h"
+#include "core/PrjOption.h"
+#include "core/SheetSize.h"
+#include "inspect/StagePaletteFile.h"
+#include "objects/GValInfo.h"
+#include "objects/Palette.h"
+
 namespace velmora::inspect {
 namespace {
 
@@ -31,7 +38,14 @@ std::string WithoutVersionSuffix(const std::string& name) {
 
 const std::vector<cFileKind>& FileKinds() {
   // Each record issue adds the files it brings.
-  static const std::vector<cFileKind> kinds = {};
+  static const std::vector<cFileKind> kinds = {
+      {"EditConfig", "EditConfig.dat", &cRecordFile<EditConfig>::Load},
+      {"SheetSize", "SheetSize.dat", &cRecordFile<SheetSize>::Load},
+      {"PrjOption", "PrjOption.dat", &cRecordFile<PrjOption>::Load},
+      {"CommonPalette", "*.cplt4", &cRecordFile<cPalette>::Load},
+      {"StagePalette", "*.plt4", &LoadStagePaletteFile},
+      {"GValInfo", "GValInfo.dat", &cRecordFile<cCommonVarFile>::Load},
+  };
   return kinds;
 }
 

@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "core/EditConfig.h"
 #include "core/Log.h"
 #include "core/Prompt.h"
 #include "core/SystemText.h"
@@ -97,6 +98,18 @@ bool WritePicture(const std::string& output, const cIndexedPicture& picture, con
 }
 
 }  // namespace
+
+cConvertOptions ConvertOptionsOf(const EditConfig& config) {
+  cConvertOptions options;
+  options.useTransparency = config.m_bBmpUseTrans != 0;
+  options.transparentColour = config.m_nBmpTransColor;
+  options.replaceLineColour = config.m_bBmpReplaceLine != 0;
+  options.lineColourIn = config.m_nBmpLineIn;
+  options.lineColourOut = config.m_nBmpLineOut;
+  options.sameAsInput = config.m_bBmpSameAsInput != 0;
+  options.outputFolder = config.m_strBmpFolder;
+  return options;
+}
 
 std::string ConvertOutputPath(const std::string& input, const cConvertOptions& options) {
   if (options.sameAsInput) return input;

@@ -6,6 +6,8 @@
 
 namespace velmora {
 
+class EditConfig;
+
 // The bitmap tool rewrites 256-colour pictures made elsewhere so that every
 // pixel uses a colour the project's games may use: colour 0 for
 // transparency, the line colours, and entries 16 to 207 of the source
@@ -19,6 +21,9 @@ struct cConvertOptions {
   bool sameAsInput = false;  // overwrite each input
   std::string outputFolder = "bmp\\convert";
 };
+
+// The options as the editor settings keep them.
+cConvertOptions ConvertOptionsOf(const EditConfig& config);
 
 // Where the converted form of `input` goes.
 std::string ConvertOutputPath(const std::string& input, const cConvertOptions& options);

@@ -1,7 +1,6 @@
 #include <array>
 #include <cstdarg>
 #include <cstdio>
-#include <vector>
 
 #include "ui/surface/LineWalk.h"
 #include "ui/surface/Raster.h"
@@ -132,18 +131,11 @@ void cSurface::DrawText(int x, int y, const std::string& text, cColourRef colour
 }
 
 void cSurface::DrawFormat(int x, int y, const char* format, ...) {
+  // Lines on a surface are short; longer text is cut, never overrun.
+  char text[1024];
   va_list args;
   va_start(args, format);
-  va_list measure;
-  va_copy(measure, args);
-  const int length = std::vsnprintf(nullptr, 0, format, measure);
-  va_end(measure);
-  std::string text;
-  if (length > 0) {
-    std::vector<char> buffer(static_cast<size_t>(length) + 1);
-    std::vsnprintf(buffer.data(), buffer.size(), format, args);
-    text.assign(buffer.data(), static_cast<size_t>(length));
-  }
+  std::vsnprintf(text, sizeof text, format, args);
   va_end(args);
   DrawText(x, y, text, kWhite, kTextTransparent);
 }

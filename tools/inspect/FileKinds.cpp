@@ -4,6 +4,7 @@
 
 #include "core/EditConfig.h"
 #include "core/SheetSize.h"
+#include "inspect/PaletteFiles.h"
 #include "objects/GValInfo.h"
 
 namespace velmora::inspect {
@@ -39,6 +40,8 @@ const std::vector<cFileKind>& FileKinds() {
       {"EditConfig", "EditConfig.dat", &cRecordFile<EditConfig>::Load},
       {"SheetSize", "SheetSize.dat", &cRecordFile<SheetSize>::Load},
       {"GValInfo", "GValInfo.dat", cRecordFile<cCommonVarFile>::Load},
+      {"CommonPalette", "*.cplt4", &cRecordFile<cPalette>::Load},
+      {"StagePalette", "*.plt4", &cRecordFile<cStagePaletteFile>::Load},
   };
   return kinds;
 }

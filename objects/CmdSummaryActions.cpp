@@ -53,15 +53,9 @@ void AppendDirection(std::string& text, int dir, int angle) {
   if (angle != 0) AppendFormat(text, "%d", angle);
 }
 
-// " 目標(x,y)", "-" standing for an axis the move leaves free.
 void AppendTarget(std::string& text, const cEdMove& move, bool useFlags) {
-  const bool x = !useFlags || move.m_bTargetX;
-  const bool y = !useFlags || move.m_bTargetY;
-  text += SysText(" 目標(");
-  text += x ? std::to_string(move.m_nTargetX) : "-";
-  text += ',';
-  text += y ? std::to_string(move.m_nTargetY) : "-";
-  text += ')';
+  text += SysText(" 目標");
+  AppendTargetAxes(text, move, useFlags);
 }
 
 void AppendAim(std::string& text, const cEdMove& move, bool targetFlags) {

@@ -59,11 +59,8 @@ void RenderWarp(const cEdCmd& cmd, cCmdLine& line) {
     AppendFormat(line.details, SysText(" %s 距%d"), DirTable.Label(move.m_nDir), move.m_nDist);
   } else if (move.m_nAimType == kWarpByCoord) {
     AppendLabel(line.details, CoordTypeTable, move.m_nTargetType);
-    line.details += " (";
-    line.details += move.m_bTargetX ? std::to_string(move.m_nTargetX) : "-";
-    line.details += ',';
-    line.details += move.m_bTargetY ? std::to_string(move.m_nTargetY) : "-";
-    line.details += ')';
+    line.details += ' ';
+    AppendTargetAxes(line.details, move, true);
   }
 }
 

@@ -52,6 +52,14 @@ void AppendLabel(std::string& text, const cLabelTable& table, int value) { Appen
 
 void AppendDbName(std::string& text, eDbList list, int row) { AppendPiece(text, RefNames().DbRowName(list, row)); }
 
+void AppendTargetAxes(std::string& text, const cEdMove& move, bool useFlags) {
+  text += '(';
+  text += !useFlags || move.m_bTargetX ? std::to_string(move.m_nTargetX) : "-";
+  text += ',';
+  text += !useFlags || move.m_bTargetY ? std::to_string(move.m_nTargetY) : "-";
+  text += ')';
+}
+
 void AppendEntry(std::string& text, int palette, ePaletteList list, int number) {
   AppendFormat(text, SysText(" 「%s %s」"), VarNumberText(number).c_str(),
                RefNames().EntryName(PaletteOf(palette), list, number).c_str());

@@ -52,6 +52,9 @@ void AppendPiece(std::string& text, const char* piece);
 inline void AppendPiece(std::string& text, const std::string& piece) { AppendPiece(text, piece.c_str()); }
 void AppendLabel(std::string& text, const cLabelTable& table, int value);
 void AppendDbName(std::string& text, eDbList list, int row);
+// "(x,y)" of a move's target; with `useFlags`, "-" stands for an axis
+// the move leaves free.
+void AppendTargetAxes(std::string& text, const cEdMove& move, bool useFlags);
 // " 「%s %s」": an entry number in three digits and its name.
 void AppendEntry(std::string& text, int palette, ePaletteList list, int number);
 

@@ -21,13 +21,18 @@ std::string cFakeRefNames::EntryName(ePalette palette, ePaletteList list, int nu
 
 void SummaryTest::SetUp() {
   InstallRefNames(&m_names);
-  g_vecCommonVar.assign(kCommonVarCount, cStageVar());
-  g_vecCommonVar[7].m_strName = ToCp932("体力");
-  m_stageVars.resize(20);
-  m_stageVars[4].m_strName = ToCp932("残機");
-  m_stageVars[12].m_strName = ToCp932("鍵");
-  SetStageVarList(&m_stageVars);
   SetObjectContext(eObjectContext::CharaEditor);
+  g_vecCommonVar.assign(kCommonVarCount, cStageVar());
+  m_stageVars.resize(20);
+  SetStageVarList(&m_stageVars);
+  struct cNamed {
+    std::vector<cStageVar>& list;
+    int number;
+    const char* name;
+  };
+  for (const cNamed& var : {cNamed{g_vecCommonVar, 7, "体力"}, cNamed{m_stageVars, 4, "残機"}, cNamed{m_stageVars, 12, "鍵"}}) {
+    var.list[static_cast<size_t>(var.number)].m_strName = ToCp932(var.name);
+  }
 }
 
 void SummaryTest::TearDown() {

@@ -6,6 +6,7 @@
 #include "core/ProjectPaths.h"
 #include "inspect/BehaviourText.h"
 #include "inspect/FileKinds.h"
+#include "inspect/Inspector.h"
 #include "inspect/PaletteFiles.h"
 #include "objects/GValInfo.h"
 #include "platform/FileSystem.h"
@@ -78,7 +79,7 @@ int Behaviour(const std::string& path, const std::string& entry, std::string& ou
   LoadProjectNames(kind->palette);
   cBehaviourSource source;
   if (!kind->load(StoredPath(path), source)) {
-    err += "velmora-inspect: cannot read " + path + "\n";
+    err += ReadFailureText(path);
     return 1;
   }
   InstallPaletteLists(kind->palette, source.lists);

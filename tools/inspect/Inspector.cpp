@@ -24,9 +24,7 @@ std::unique_ptr<cLoadedFile> LoadKnown(const std::string& path, std::string& err
   const std::string stored = StoredPath(path);
   std::unique_ptr<cLoadedFile> loaded = kind->load(stored);
   if (!loaded) {
-    err += g_bFileTooNew ? "velmora-inspect: " + path + " is of version " + std::to_string(g_nFileVersion) +
-                               ", newer than this build (" + std::to_string(g_nAppVersion) + ")\n"
-                         : "velmora-inspect: cannot read " + path + "\n";
+    err += ReadFailureText(path);
   }
   return loaded;
 }
@@ -51,6 +49,12 @@ int Resave(const std::string& in, const std::string& outPath, std::string& err) 
 }
 
 }  // namespace
+
+std::string ReadFailureText(const std::string& path) {
+  return g_bFileTooNew ? "velmora-inspect: " + path + " is of version " + std::to_string(g_nFileVersion) +
+                             ", newer than this build (" + std::to_string(g_nAppVersion) + ")\n"
+                       : "velmora-inspect: cannot read " + path + "\n";
+}
 
 int RunInspector(const std::vector<std::string>& args, std::string& out, std::string& err) {
   if (args.size() == 2 && args[0] == "dump") return Dump(args[1], out, err);

@@ -6,7 +6,7 @@
 #include "core/PrjOption.h"
 #include "core/ProjectPaths.h"
 #include "core/SheetSize.h"
-#include "inspect/StagePaletteFile.h"
+#include "inspect/PaletteFiles.h"
 #include "objects/GValInfo.h"
 #include "objects/Palette.h"
 #include "project/Database.h"
@@ -54,7 +54,6 @@ const std::vector<cFileKind>& FileKinds() {
       {"SheetSize", "SheetSize.dat", &cRecordFile<SheetSize>::Load},
       {"PrjOption", "PrjOption.dat", &cRecordFile<PrjOption>::Load},
       {"CommonPalette", "*.cplt4", &cRecordFile<cPalette>::Load},
-      {"StagePalette", "*.plt4", &LoadStagePaletteFile},
       {"GValInfo", "GValInfo.dat", &cRecordFile<cCommonVarFile>::Load},
       {"AnimeSet", "AnimeSet.dat", &cRecordFile<cDbList<cEdAnimeSet>>::Load},
       {"Anime", "Anime.dat", &cRecordFile<cDbList<cEdAnime>>::Load},
@@ -68,6 +67,8 @@ const std::vector<cFileKind>& FileKinds() {
       {"Bgm", "Bgm.dat", &cRecordFile<cDbList<cEdBgm>>::Load},
       {"WorldMap", "WorldMap.dat", &cRecordFile<cEdWorldMap>::Load},
       {"System", "System.dat", &LoadSystem},
+      {"GValInfo", "GValInfo.dat", cRecordFile<cCommonVarFile>::Load},
+      {"StagePalette", "*.plt4", &cRecordFile<cStagePaletteFile>::Load},
   };
   return kinds;
 }

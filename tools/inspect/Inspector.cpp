@@ -1,6 +1,7 @@
 #include "inspect/Inspector.h"
 
 #include "core/SaveData.h"
+#include "inspect/Behaviour.h"
 #include "inspect/FileKinds.h"
 #include "inspect/JsonWriter.h"
 #include "platform/HostPath.h"
@@ -11,6 +12,7 @@ namespace {
 const char kUsage[] =
     "usage: velmora-inspect dump FILE\n"
     "       velmora-inspect resave IN OUT\n"
+    "       velmora-inspect behaviour FILE [chara:N|item:N]\n"
     "Run inside a project folder so that checks use its data.\n";
 
 std::unique_ptr<cLoadedFile> LoadKnown(const std::string& path, std::string& err) {
@@ -22,9 +24,7 @@ std::unique_ptr<cLoadedFile> LoadKnown(const std::string& path, std::string& err
   const std::string stored = StoredPath(path);
   std::unique_ptr<cLoadedFile> loaded = kind->load(stored);
   if (!loaded) {
-    err += g_bFileTooNew ? "velmora-inspect: " + path + " is of version " + std::to_string(g_nFileVersion) +
-                               ", newer than this build (" + std::to_string(g_nAppVersion) + ")\n"
-                         : "velmora-inspect: cannot read " + path + "\n";
+    err += ReadFailureText(path);
   }
   return loaded;
 }
@@ -50,9 +50,18 @@ int Resave(const std::string& in, const std::string& outPath, std::string& err) 
 
 }  // namespace
 
+std::string ReadFailureText(const std::string& path) {
+  return g_bFileTooNew ? "velmora-inspect: " + path + " is of version " + std::to_string(g_nFileVersion) +
+                             ", newer than this build (" + std::to_string(g_nAppVersion) + ")\n"
+                       : "velmora-inspect: cannot read " + path + "\n";
+}
+
 int RunInspector(const std::vector<std::string>& args, std::string& out, std::string& err) {
   if (args.size() == 2 && args[0] == "dump") return Dump(args[1], out, err);
   if (args.size() == 3 && args[0] == "resave") return Resave(args[1], args[2], err);
+  if ((args.size() == 2 || args.size() == 3) && args[0] == "behaviour") {
+    return Behaviour(args[1], args.size() == 3 ? args[2] : "", out, err);
+  }
   err += kUsage;
   return 2;
 }

@@ -1,0 +1,91 @@
+#include "inspect/Behaviour.h"
+
+#include <cstring>
+#include <memory>
+
+#include "core/ProjectPaths.h"
+#include "inspect/BehaviourText.h"
+#include "inspect/FileKinds.h"
+#include "inspect/Inspector.h"
+#include "inspect/PaletteFiles.h"
+#include "objects/GValInfo.h"
+#include "platform/FileSystem.h"
+#include "platform/HostPath.h"
+
+namespace velmora::inspect {
+namespace {
+
+// A file read for its behaviour: the record that owns the lists, and the
+// lists.
+struct cBehaviourSource {
+  std::unique_ptr<cSaveData> owner;
+  cPaletteLists lists;
+};
+
+template <class T>
+bool LoadPaletteOwner(const std::string& storedPath, cBehaviourSource& source) {
+  auto record = std::make_unique<T>();
+  if (!record->LoadFile(storedPath)) return false;
+  source.lists = record->Lists();
+  source.owner = std::move(record);
+  return true;
+}
+
+// The files that hold characters and items, by their row in FileKinds(),
+// and the palette their lists stand for, which entry references name.
+struct cBehaviourKind {
+  const char* fileKind;
+  ePalette palette;
+  bool (*load)(const std::string& storedPath, cBehaviourSource& source);
+};
+
+constexpr cBehaviourKind kBehaviourKinds[] = {
+    {"CommonPalette", ePalette::Common, &LoadPaletteOwner<cPalette>},
+    {"StagePalette", ePalette::Stage, &LoadPaletteOwner<cStagePaletteFile>},
+};
+
+const cBehaviourKind* FindBehaviourKind(const std::string& path) {
+  const cFileKind* fileKind = FindFileKind(path);
+  if (!fileKind) return nullptr;
+  for (const cBehaviourKind& kind : kBehaviourKinds) {
+    if (std::strcmp(kind.fileKind, fileKind->name) == 0) return &kind;
+  }
+  return nullptr;
+}
+
+// Lines name variables and common palette entries as the project has them,
+// when the inspector runs inside one.
+void LoadProjectNames(ePalette shown) {
+  if (FileExists(PathOf(ePath::GValInfo))) LoadCommonVars();
+  if (shown != ePalette::Common && FileExists(PathOf(ePath::CommonPalette)) &&
+      CommonPalette().LoadFile(PathOf(ePath::CommonPalette))) {
+    InstallPaletteLists(ePalette::Common, CommonPalette().Lists());
+  }
+}
+
+}  // namespace
+
+int Behaviour(const std::string& path, const std::string& entry, std::string& out, std::string& err) {
+  cEntryFilter filter;
+  if (!entry.empty() && !ParseEntryFilter(entry, filter)) {
+    err += "velmora-inspect: entry must be chara:N or item:N, not " + entry + "\n";
+    return 2;
+  }
+  const cBehaviourKind* kind = FindBehaviourKind(path);
+  if (!kind) {
+    err += "velmora-inspect: " + path + " holds no characters or items\n";
+    return 1;
+  }
+  LoadProjectNames(kind->palette);
+  cBehaviourSource source;
+  if (!kind->load(StoredPath(path), source)) {
+    err += ReadFailureText(path);
+    return 1;
+  }
+  InstallPaletteLists(kind->palette, source.lists);
+  out += BehaviourText(source.lists, filter);
+  InstallPaletteLists(kind->palette, {});
+  return 0;
+}
+
+}  // namespace velmora::inspect

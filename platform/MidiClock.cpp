@@ -29,6 +29,12 @@ int64_t cManualMidiClock::NowUs() const { return m_nNowUs.load(); }
 
 void cManualMidiClock::WaitUntil(std::condition_variable& wake, std::unique_lock<std::mutex>& lock,
                                  int64_t deadlineUs) {
+  if (m_eMode == eMode::Jumping) {
+    int64_t now = m_nNowUs.load();
+    while (now < deadlineUs && !m_nNowUs.compare_exchange_weak(now, deadlineUs)) {
+    }
+    return;
+  }
   if (NowUs() < deadlineUs) wake.wait_for(lock, kManualPoll);
 }
 

@@ -7,8 +7,10 @@
 namespace velmora {
 
 // The time base of the MIDI stream. The real one follows the monotonic
-// clock; the manual one moves only when told, so tests can play a song of
-// minutes in no time and stop it exactly between two events.
+// clock. The manual one moves only when told, so a test can stop a song
+// exactly between two events; told to jump, it leaps to every deadline a
+// stream waits for, and a song of minutes plays in no time with each event
+// stamped at its exact due time.
 class cMidiClock {
  public:
   virtual ~cMidiClock() = default;
@@ -26,11 +28,14 @@ class cSteadyMidiClock : public cMidiClock {
 
 class cManualMidiClock : public cMidiClock {
  public:
+  enum class eMode { Stepped, Jumping };
+  explicit cManualMidiClock(eMode mode) : m_eMode(mode) {}
   int64_t NowUs() const override;
   void WaitUntil(std::condition_variable& wake, std::unique_lock<std::mutex>& lock, int64_t deadlineUs) override;
   void Advance(int64_t us);
 
  private:
+  eMode m_eMode;
   std::atomic<int64_t> m_nNowUs{0};
 };
 

@@ -1,5 +1,8 @@
 #include "platform/MidiStream.h"
 
+#include <pthread.h>
+#include <sys/prctl.h>
+
 #include <cstring>
 
 #include "platform/MidiOutputDevice.h"
@@ -15,6 +18,16 @@ uint32_t ReadWord(const uint8_t* p) {
 }
 
 uint32_t PaddedLength(uint32_t size) { return (size + 3) & ~3u; }
+
+// A note that comes late is heard, so the timing thread asks for real-time
+// scheduling and the finest timer slack. Where the system refuses, it runs
+// at normal priority.
+void RaiseTimingPriority() {
+  sched_param param{};
+  param.sched_priority = 10;
+  pthread_setschedparam(pthread_self(), SCHED_FIFO, &param);
+  prctl(PR_SET_TIMERSLACK, 1UL, 0UL, 0UL, 0UL);
+}
 
 struct cErrorText {
   uint32_t code;
@@ -55,7 +68,11 @@ uint32_t cMidiStream::Open(std::unique_ptr<cMidiStream>& stream, cMidiThreadQueu
 cMidiStream::cMidiStream(std::shared_ptr<cMidiSink> sink, std::shared_ptr<cMidiClock> clock,
                          cMidiThreadQueue* callback)
     : m_pSink(std::move(sink)), m_pClock(std::move(clock)), m_pCallback(callback) {
+  // The stream counts as open once its thread waits for work: a song
+  // started at once then doesn't lose its first notes to the thread's start.
+  std::unique_lock<std::mutex> lock(m_mutex);
   m_thread = std::thread([this] { Run(); });
+  m_wake.wait(lock, [this] { return m_bThreadReady; });
 }
 
 cMidiStream::~cMidiStream() {
@@ -167,7 +184,10 @@ uint32_t cMidiStream::Close() {
 }
 
 void cMidiStream::Run() {
+  RaiseTimingPriority();
   std::unique_lock<std::mutex> lock(m_mutex);
+  m_bThreadReady = true;
+  m_wake.notify_all();
   while (!m_bClosing) {
     cEvent event;
     if (m_bRunning) FinishHeaderIfDone();

@@ -115,6 +115,7 @@ class cMidiStream {
   bool m_bRunning = false;
   bool m_bStarted = false;  // the clock has been anchored since the last rewind
   bool m_bClosing = false;
+  bool m_bThreadReady = false;
   std::thread m_thread;
 };
 

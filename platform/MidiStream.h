@@ -44,7 +44,6 @@ constexpr uint32_t MEVT_F_LONG = 0x80000000;
 constexpr uint32_t MEVT_F_CALLBACK = 0x40000000;
 constexpr uint8_t MEVT_SHORTMSG = 0x00;
 constexpr uint8_t MEVT_TEMPO = 0x01;
-constexpr uint8_t MEVT_NOP = 0x02;
 
 constexpr uint32_t MM_MOM_POSITIONCB = 0x3CA;
 

@@ -30,6 +30,13 @@ std::unique_ptr<cDataFile> cDataFile::OpenForWrite(const std::string& stored) {
   return std::unique_ptr<cDataFile>(new cDataFile(file, 0));
 }
 
+std::unique_ptr<cDataFile> cDataFile::FromMemory(const void* data, size_t size) {
+  static char empty = 0;
+  std::FILE* file = ::fmemopen(size ? const_cast<void*>(data) : &empty, size ? size : 1, "rb");
+  if (!file) return nullptr;
+  return std::unique_ptr<cDataFile>(new cDataFile(file, size));
+}
+
 cDataFile::~cDataFile() { Close(); }
 
 bool cDataFile::Read(void* target, size_t bytes) {

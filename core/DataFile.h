@@ -14,6 +14,8 @@ class cDataFile {
  public:
   static std::unique_ptr<cDataFile> OpenForRead(const std::string& stored);
   static std::unique_ptr<cDataFile> OpenForWrite(const std::string& stored);
+  // Reads bytes already in memory (which must outlive the file).
+  static std::unique_ptr<cDataFile> FromMemory(const void* data, size_t size);
   ~cDataFile();
   cDataFile(const cDataFile&) = delete;
   cDataFile& operator=(const cDataFile&) = delete;

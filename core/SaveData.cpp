@@ -38,8 +38,17 @@ struct cLayoutKey {
   }
 };
 
-std::mutex g_layoutLock;
-std::map<cLayoutKey, std::unique_ptr<cRecordLayout>> g_layouts;
+// Function statics, so that a record built during static initialisation
+// (a process-wide settings object) finds the table ready.
+std::mutex& LayoutLock() {
+  static std::mutex lock;
+  return lock;
+}
+
+std::map<cLayoutKey, std::unique_ptr<cRecordLayout>>& Layouts() {
+  static std::map<cLayoutKey, std::unique_ptr<cRecordLayout>> layouts;
+  return layouts;
+}
 
 // The one-entry memo in front of the shared table: records are mostly read
 // and written in runs of one class.
@@ -56,33 +65,23 @@ T* At(const cSaveData* record, std::ptrdiff_t offset) {
   return reinterpret_cast<T*>(const_cast<char*>(reinterpret_cast<const char*>(record)) + offset);
 }
 
-const cSaveField& FieldEntry(const cRecordLayout& layout, int index) {
-  return VecAt(layout.fields, index, eBadIndexClose::PostRequest);
-}
-
-const cSaveString& StringEntry(const cRecordLayout& layout, int index) {
-  return VecAt(layout.strings, index, eBadIndexClose::PostRequest);
-}
-
-bool InRange(const std::vector<cSaveField>& list, int index) {
-  return index >= 0 && static_cast<size_t>(index) < list.size();
-}
-
-bool InRange(const std::vector<cSaveString>& list, int index) {
-  return index >= 0 && static_cast<size_t>(index) < list.size();
+// The checked access of the field lists. Past the end of a list the stop
+// runs as for any bad index, but the load ends there instead of going on
+// with element 0: the stream is out of step and nothing more of the file
+// can be trusted, and a class with no strings has no element 0 to give.
+template <class Entry>
+bool EntryInRange(const std::vector<Entry>& list, int index, cDataFile& file) {
+  if (index >= 0 && static_cast<size_t>(index) < list.size()) return true;
+  BadIndex('V', index, static_cast<int>(list.size()), static_cast<int>(sizeof(Entry)), eBadIndexClose::PostRequest);
+  file.MarkDamaged();
+  return false;
 }
 
 void ReadScalarBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& file) {
   int32_t entries = 0;
   if (!file.ReadInt32(entries)) return;
   for (int32_t i = 0; i < entries; ++i) {
-    if (!InRange(layout.fields, i)) {
-      // More entries than the class knows: the stop runs, and with the
-      // stream out of step nothing more of this file can be trusted.
-      FieldEntry(layout, i);
-      file.MarkDamaged();
-      return;
-    }
+    if (!EntryInRange(layout.fields, i, file)) return;
     const cSaveField& field = layout.fields[static_cast<size_t>(i)];
     const size_t bytes = static_cast<size_t>(field.count) * static_cast<size_t>(field.size);
     if (field.dropped) {
@@ -97,27 +96,9 @@ void ReadStringBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& 
   int32_t entries = 0;
   if (!file.ReadInt32(entries)) return;
   for (int32_t i = 0; i < entries; ++i) {
-    if (!InRange(layout.strings, i)) {
-      StringEntry(layout, i);
-      file.MarkDamaged();
-      return;
-    }
-    int32_t length = 0;
-    if (!file.ReadInt32(length)) return;
+    if (!EntryInRange(layout.strings, i, file)) return;
     const cSaveString& entry = layout.strings[static_cast<size_t>(i)];
-    std::string* target = entry.dropped ? &g_strDropped : At<std::string>(record, entry.offset);
-    if (length == 1) {
-      target->clear();
-      continue;
-    }
-    if (length < 1 || static_cast<uint64_t>(length) > file.Remaining()) {
-      file.MarkDamaged();
-      return;
-    }
-    std::string buffer(static_cast<size_t>(length), '\0');
-    if (!file.Read(buffer.data(), buffer.size())) return;
-    buffer.resize(std::strlen(buffer.c_str()));
-    *target = std::move(buffer);
+    if (!ReadStreamString(file, entry.dropped ? g_strDropped : *At<std::string>(record, entry.offset))) return;
   }
 }
 
@@ -181,15 +162,15 @@ const cRecordLayout& cSaveData::Layout(uint32_t version) const {
   const cLayoutKey key{std::type_index(type), version, variant};
   const cRecordLayout* layout = nullptr;
   {
-    std::lock_guard<std::mutex> guard(g_layoutLock);
-    auto found = g_layouts.find(key);
-    if (found != g_layouts.end()) layout = found->second.get();
+    std::lock_guard<std::mutex> guard(LayoutLock());
+    auto found = Layouts().find(key);
+    if (found != Layouts().end()) layout = found->second.get();
   }
   if (!layout) {
     // Built outside the lock: a Register may construct other records.
     auto built = cLayoutBuilder::Build(*this, version);
-    std::lock_guard<std::mutex> guard(g_layoutLock);
-    auto [it, inserted] = g_layouts.try_emplace(key, std::move(built));
+    std::lock_guard<std::mutex> guard(LayoutLock());
+    auto [it, inserted] = Layouts().try_emplace(key, std::move(built));
     layout = it->second.get();
   }
   t_memo = {&type, version, variant, layout};
@@ -243,12 +224,33 @@ void cSaveData::Save(cDataFile& file) {
   }
   file.WriteInt32(static_cast<int32_t>(layout.strings.size()));
   for (const cSaveString& entry : layout.strings) {
-    std::string& text = entry.dropped ? g_strDropped : *At<std::string>(this, entry.offset);
-    CutForBuffer(text);
-    const int32_t length = static_cast<int32_t>(text.size()) + 1;
-    file.WriteInt32(length);
-    if (length != 1) file.Write(text.c_str(), static_cast<size_t>(length));
+    WriteStreamString(file, entry.dropped ? g_strDropped : *At<std::string>(this, entry.offset));
   }
+}
+
+bool ReadStreamString(cDataFile& file, std::string& target) {
+  int32_t length = 0;
+  if (!file.ReadInt32(length)) return false;
+  if (length == 1) {
+    target.clear();
+    return true;
+  }
+  if (length < 1 || static_cast<uint64_t>(length) > file.Remaining()) {
+    file.MarkDamaged();
+    return false;
+  }
+  std::string buffer(static_cast<size_t>(length), '\0');
+  if (!file.Read(buffer.data(), buffer.size())) return false;
+  buffer.resize(std::strlen(buffer.c_str()));
+  target = std::move(buffer);
+  return true;
+}
+
+void WriteStreamString(cDataFile& file, std::string& text) {
+  CutForBuffer(text);
+  const int32_t length = static_cast<int32_t>(text.size()) + 1;
+  file.WriteInt32(length);
+  if (length != 1) file.Write(text.c_str(), static_cast<size_t>(length));
 }
 
 int cSaveData::LoadFile(const std::string& name) {

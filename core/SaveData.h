@@ -60,7 +60,15 @@ class cNestedVisitor {
   virtual void EndArray() = 0;
   // A record held by pointer; null when absent.
   virtual void Child(const char* name, const cSaveData* record) = 0;
+  // Parts that are not records: bare numbers and bare strings.
+  virtual void Numbers(const char* /*name*/, const std::vector<int64_t>& /*values*/) {}
+  virtual void Texts(const char* /*name*/, const std::vector<std::string>& /*texts*/) {}
 };
+
+template <class Number>
+void VisitNumbers(cNestedVisitor& visitor, const char* name, const std::vector<Number>& values) {
+  visitor.Numbers(name, std::vector<int64_t>(values.begin(), values.end()));
+}
 
 template <class Vector>
 void VisitVector(cNestedVisitor& visitor, const char* name, const Vector& vec) {
@@ -138,6 +146,12 @@ DataFilePtr OpenWrite(const std::string& name);
 // Closes and forgets the file; false when something written was lost.
 bool CloseData(DataFilePtr& file);
 bool IsOlderFile(const std::string& name, uint32_t version);
+
+// One string in the stream's form, for parts that store bare strings
+// outside a record's string block. The writer cuts the member the way a
+// record's strings are cut. A read gives false when the stream ended.
+bool ReadStreamString(cDataFile& file, std::string& target);
+void WriteStreamString(cDataFile& file, std::string& text);
 
 // Reading a count that sizes a vector: a count beyond what the rest of the
 // file could hold (each element takes at least `minBytesPerElement`) is

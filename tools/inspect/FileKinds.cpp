@@ -2,6 +2,17 @@
 
 #include <strings.h>
 
+#include "core/EditConfig.h"
+#include "core/PrjOption.h"
+#include "core/SheetSize.h"
+#include "inspect/StagePaletteFile.h"
+#include "objects/GValInfo.h"
+#include "objects/Palette.h"
+#include "core/ProjectPaths.h"
+#include "project/Database.h"
+#include "project/SystemRecord.h"
+#include "project/WorldMap.h"
+
 namespace velmora::inspect {
 namespace {
 
@@ -27,11 +38,37 @@ std::string WithoutVersionSuffix(const std::string& name) {
   return name.substr(0, underscore);
 }
 
+// The system record checks its music rows against the project's music
+// list, so that list is read first when the folder has one.
+std::unique_ptr<cLoadedFile> LoadSystem(const std::string& storedPath) {
+  Database().LoadList(eDbList::Bgm, PathOf(ePath::Bgm));
+  return cRecordFile<cEdSystem>::Load(storedPath);
+}
+
 }  // namespace
 
 const std::vector<cFileKind>& FileKinds() {
   // Each record issue adds the files it brings.
-  static const std::vector<cFileKind> kinds = {};
+  static const std::vector<cFileKind> kinds = {
+      {"EditConfig", "EditConfig.dat", &cRecordFile<EditConfig>::Load},
+      {"SheetSize", "SheetSize.dat", &cRecordFile<SheetSize>::Load},
+      {"PrjOption", "PrjOption.dat", &cRecordFile<PrjOption>::Load},
+      {"CommonPalette", "*.cplt4", &cRecordFile<cPalette>::Load},
+      {"StagePalette", "*.plt4", &LoadStagePaletteFile},
+      {"GValInfo", "GValInfo.dat", &cRecordFile<cCommonVarFile>::Load},
+      {"AnimeSet", "AnimeSet.dat", &cRecordFile<cDbList<cEdAnimeSet>>::Load},
+      {"Anime", "Anime.dat", &cRecordFile<cDbList<cEdAnime>>::Load},
+      {"CharaBmp", "Bmp_CharaExc.dat", &cRecordFile<cDbList<cEdCharaBmp>>::Load},
+      {"SwordType", "SwordType.dat", &cRecordFile<cDbList<cEdSwordType>>::Load},
+      {"Effect", "Effect.dat", &cRecordFile<cDbList<cEdEffect>>::Load},
+      {"CharaEffect", "CharaEffect.dat", &cRecordFile<cDbList<cEdCharaEffect>>::Load},
+      {"ScrEffect", "ScrEffect.dat", &cRecordFile<cDbList<cEdScrEffect>>::Load},
+      {"Picture", "Picture.dat", &cRecordFile<cDbList<cEdPicture>>::Load},
+      {"Sound", "Sound.dat", &cRecordFile<cDbList<cEdSound>>::Load},
+      {"Bgm", "Bgm.dat", &cRecordFile<cDbList<cEdBgm>>::Load},
+      {"WorldMap", "WorldMap.dat", &cRecordFile<cEdWorldMap>::Load},
+      {"System", "System.dat", &LoadSystem},
+  };
   return kinds;
 }
 

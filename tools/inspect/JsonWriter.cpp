@@ -71,6 +71,18 @@ class cJsonNested : public cNestedVisitor {
     Key(name);
     m_out += record ? RecordJson(*record, m_indent + 1) : "null";
   }
+  void Numbers(const char* name, const std::vector<int64_t>& values) override {
+    Key(name);
+    m_out += "[";
+    for (size_t i = 0; i < values.size(); ++i) m_out.append(i ? ", " : "").append(std::to_string(values[i]));
+    m_out += "]";
+  }
+  void Texts(const char* name, const std::vector<std::string>& texts) override {
+    Key(name);
+    m_out += "[";
+    for (size_t i = 0; i < texts.size(); ++i) m_out.append(i ? ", " : "").append(JsonString(ToUtf8(texts[i])));
+    m_out += "]";
+  }
 
  private:
   void Key(const char* name) { m_out.append(",\n").append(Pad(m_indent + 1)).append(JsonString(name)).append(": "); }

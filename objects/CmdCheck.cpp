@@ -1,0 +1,125 @@
+// The two reference checks of a command: against the database lists
+// (CheckCmd) and against the palettes (CheckCmdRefs).
+#include "objects/Cmd.h"
+#include "objects/CmdTable.h"
+#include "objects/Flow.h"
+#include "objects/RefSizes.h"
+
+namespace velmora {
+namespace {
+
+// A parameter that names a database row; out of the list it becomes
+// `repaired`. `whenP0` limits the rule to one value of parameter 0.
+struct cParamRef {
+  int kind;
+  int whenP0;  // -1: always
+  int index;
+  eDbList list;
+  int32_t repaired;
+};
+
+constexpr int kAnyP0 = -1;
+constexpr int kGraphicOwnBitmap = 4;
+
+const cParamRef kParamRefs[] = {
+    {kCmdGraphic, kGraphicOwnBitmap, 1, eDbList::BmpCharaExc, 1},
+    {kCmdAnimeSet, kAnyP0, 0, eDbList::AnimeSet, 0},
+    {kCmdAnime, kAnyP0, 0, eDbList::Anime, 1},
+    {kCmdEffect, kAnyP0, 0, eDbList::Effect, 1},
+    {kCmdCharaEffect, kAnyP0, 0, eDbList::CharaEffect, 1},
+    {kCmdScrEffect, kAnyP0, 0, eDbList::ScrEffect, 1},
+    {kCmdPicture, kAnyP0, 0, eDbList::Picture, 1},
+    {kCmdSound, kAnyP0, 0, eDbList::Sound, 1},
+    {kCmdBgm, kAnyP0, 0, eDbList::Bgm, 1},
+};
+
+bool Beyond(int value, eDbList list) { return value >= RefSizes().DbListSize(list); }
+
+void CheckParamRefs(cEdCmd& c) {
+  for (const cParamRef& ref : kParamRefs) {
+    if (ref.kind != c.TableKind() || static_cast<size_t>(ref.index) >= c.m_vParam.size()) continue;
+    if (ref.whenP0 != kAnyP0 && c.m_vParam[0] != ref.whenP0) continue;
+    int32_t& value = c.m_vParam[static_cast<size_t>(ref.index)];
+    if (Beyond(value, ref.list)) value = ref.repaired;
+  }
+}
+
+void CheckSword(cEdCmd& c) {
+  if (c.TableKind() != kCmdSword || !c.m_pShot) return;
+  if (Beyond(c.m_pShot->m_nMoveType, eDbList::SwordType)) c.m_pShot->m_nMoveType = 0;
+  if (std::optional<int> time = RefSizes().SwordTypeTime(c.m_pShot->m_nMoveType)) {
+    c.m_nTime = static_cast<int16_t>(*time);
+  }
+}
+
+int PaletteSize(int palette, ePaletteList list) {
+  return RefSizes().PaletteListSize(palette == 0 ? ePalette::Common : ePalette::Stage, list);
+}
+
+// 取得アイテム of a shot or sword: its palette is 1 common or 2 stage.
+void CheckGetItem(cEdShot& shot) {
+  if (shot.m_nGetItemSrc != 1 && shot.m_nGetItemSrc != 2) return;
+  if (shot.m_nGetItemNo >= PaletteSize(shot.m_nGetItemSrc - 1, ePaletteList::Item)) {
+    shot.m_nGetItemSrc = 0;
+    shot.m_nGetItemNo = 0;
+  }
+}
+
+void CheckSummon(cEdShot& shot, ePaletteList list) {
+  if (shot.m_nSummonSrc > 1) return;
+  if (shot.m_nSummonNo >= PaletteSize(shot.m_nSummonSrc, list)) shot.m_nSummonNo = 1;
+}
+
+// アイテムの取得 in either numbering: parameter 0 the palette (0 common,
+// 1 stage), parameter 1 the entry.
+void CheckTakenItem(cEdCmd& c) {
+  if (c.m_vParam.size() < 2 || c.m_vParam[0] < 0 || c.m_vParam[0] > 1) return;
+  if (c.m_vParam[1] >= PaletteSize(c.m_vParam[0], ePaletteList::Item)) c.m_vParam[1] = 1;
+}
+
+void CheckCharaCmdRefs(cEdCmd& c) {
+  switch (c.m_nKind) {
+    case kCmdShot:
+    case kCmdSword:
+      if (c.m_pShot) CheckGetItem(*c.m_pShot);
+      break;
+    case kCmdSummonBlock:
+      if (c.m_pShot) CheckSummon(*c.m_pShot, ePaletteList::Block);
+      break;
+    case kCmdSummonChara:
+      if (c.m_pShot) CheckSummon(*c.m_pShot, ePaletteList::Chara);
+      break;
+    case kCmdSummonItem:
+      if (c.m_pShot) CheckSummon(*c.m_pShot, ePaletteList::Item);
+      break;
+    case kCmdGetItem:
+      CheckTakenItem(c);
+      break;
+    default:
+      break;
+  }
+}
+
+}  // namespace
+
+void cEdCmd::CheckCmd() {
+  if (Beyond(m_nAnime, eDbList::Anime)) m_nAnime = 0;
+  if (Beyond(m_nSound, eDbList::Sound)) m_nSound = 0;
+  m_vParam.resize(static_cast<size_t>(CmdParamCount(m_bItemCmd != 0, m_nKind)), 0);
+  CheckSword(*this);
+  CheckParamRefs(*this);
+  for (cEdFlow& flow : m_vSubFlow) flow.CheckFlow();
+}
+
+void cEdCmd::CheckCmdRefs() {
+  if (!m_bItemCmd) {
+    CheckCharaCmdRefs(*this);
+  } else if (m_nKind == kCmdGetItem - kItemKindOffset) {
+    CheckTakenItem(*this);
+  }
+  for (cEdFlow& flow : m_vSubFlow) {
+    for (cEdCmd& cmd : flow.m_vCmd) cmd.CheckCmdRefs();
+  }
+}
+
+}  // namespace velmora

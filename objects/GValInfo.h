@@ -1,0 +1,40 @@
+#pragma once
+#include <string>
+#include <vector>
+
+#include "core/ProjectPaths.h"
+#include "objects/StageVar.h"
+
+namespace velmora {
+
+inline constexpr int kCommonVarCount = 1000;
+
+// The names of the common variables, always kCommonVarCount of them once
+// loaded.
+extern std::vector<cStageVar> g_vecCommonVar;
+
+// The file of the common names: a version word and one nested vector, no
+// record at the top. Loading brings the list to exactly kCommonVarCount.
+class cCommonVarFile : public cSaveData {
+ public:
+  std::vector<cStageVar> m_vVar;
+
+  void Load(cDataFile& file) override;
+  void Save(cDataFile& file) override;
+  void VisitNested(cNestedVisitor& visitor) const override { VisitVector(visitor, "m_vVar", m_vVar); }
+};
+
+// False when the file is missing, too new or damaged; the list then stays
+// as it was.
+bool LoadCommonVars(const std::string& storedPath = PathOf(ePath::GValInfo));
+bool SaveCommonVars(const std::string& storedPath = PathOf(ePath::GValInfo));
+
+enum eVarScope : int { kScopeCommon = 0, kScopeStage = 1 };
+
+// The stage record owns the stage names; it tells where they are.
+void SetStageVarList(const std::vector<cStageVar>* names);
+
+// The name of variable `number` of a scope; "" when there is none.
+const std::string& VarName(int scope, int number);
+
+}  // namespace velmora

@@ -1,0 +1,30 @@
+#pragma once
+#include <cstdint>
+#include <vector>
+
+#include "core/DataFile.h"
+
+namespace velmora {
+
+// A nested list of plain numbers: a signed 32-bit count, then the values.
+// A stored count below 1 leaves the list as it was; a count beyond what
+// the file still holds is damage and ends the stream, list untouched.
+template <class T>
+void LoadPlainVector(std::vector<T>& vec, cDataFile& file) {
+  int32_t count = 0;
+  if (!file.ReadInt32(count) || count < 1) return;
+  if (static_cast<uint64_t>(count) * sizeof(T) > file.Remaining()) {
+    file.MarkDamaged();
+    return;
+  }
+  std::vector<T> values(static_cast<size_t>(count));
+  if (file.Read(values.data(), values.size() * sizeof(T))) vec = std::move(values);
+}
+
+template <class T>
+void SavePlainVector(const std::vector<T>& vec, cDataFile& file) {
+  file.WriteInt32(static_cast<int32_t>(vec.size()));
+  if (!vec.empty()) file.Write(vec.data(), vec.size() * sizeof(T));
+}
+
+}  // namespace velmora

@@ -8,6 +8,7 @@ PACKAGES=(
   libgtest-dev
   qt6-base-dev
   libfluidsynth-dev timgm6mb-soundfont
+  openttd-openmsx  # Standard MIDI Files from elsewhere, for the player tests
   libvorbis-dev
   libpng-dev
   fonts-ipafont-gothic

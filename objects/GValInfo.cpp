@@ -1,5 +1,7 @@
 #include "objects/GValInfo.h"
 
+#include <cstdio>
+
 namespace velmora {
 
 std::vector<cStageVar> g_vecCommonVar;
@@ -46,6 +48,12 @@ void SetStageVarList(const std::vector<cStageVar>* names) { g_pStageVars = names
 
 const std::string& VarName(int scope, int number) {
   return NameIn(scope == kScopeStage ? g_pStageVars : &g_vecCommonVar, number);
+}
+
+std::string VarNumberText(int number) {
+  char text[16];
+  std::snprintf(text, sizeof text, "%03d", number);
+  return text;
 }
 
 }  // namespace velmora

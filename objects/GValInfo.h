@@ -36,5 +36,7 @@ void SetStageVarList(const std::vector<cStageVar>* names);
 
 // The name of variable `number` of a scope; "" when there is none.
 const std::string& VarName(int scope, int number);
+// A variable's number as the lists show it: three digits.
+std::string VarNumberText(int number);
 
 }  // namespace velmora

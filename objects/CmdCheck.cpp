@@ -22,7 +22,7 @@ constexpr int kAnyP0 = -1;
 constexpr int kGraphicOwnBitmap = 4;
 
 const cParamRef kParamRefs[] = {
-    {kCmdGraphic, kGraphicOwnBitmap, 1, eDbList::BmpCharaExc, 1},
+    {kCmdGraphic, kGraphicOwnBitmap, 1, eDbList::CharaBmp, 1},
     {kCmdAnimeSet, kAnyP0, 0, eDbList::AnimeSet, 0},
     {kCmdAnime, kAnyP0, 0, eDbList::Anime, 1},
     {kCmdEffect, kAnyP0, 0, eDbList::Effect, 1},

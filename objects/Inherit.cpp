@@ -103,7 +103,7 @@ void cEdChara::CheckRefs() {
   if (m_nInheritSrc == kInheritCommon || m_nInheritSrc == kInheritStage) {
     CheckInheritRef(PaletteSize(m_nInheritSrc, ePaletteList::Chara));
   }
-  if (m_nGraphicKind == kGraphicKindOwnBmp && m_nGraphicNo >= DbSize(eDbList::BmpCharaExc)) m_nGraphicNo = 1;
+  if (m_nGraphicKind == kGraphicKindOwnBmp && m_nGraphicNo >= DbSize(eDbList::CharaBmp)) m_nGraphicNo = 1;
   if (m_nGiant < 1) m_nGiant = 1;
   ClearBeyond(m_nAnimeSet, eDbList::AnimeSet);
   ClearBeyond(m_nStartEffect, eDbList::CharaEffect);

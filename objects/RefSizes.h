@@ -1,10 +1,11 @@
 #pragma once
 #include <optional>
 
+// The database lists that records refer to by row: eDbList.
+#include "project/Database.h"
+
 namespace velmora {
 
-// The database lists that commands refer to by row.
-enum class eDbList { AnimeSet, Anime, BmpCharaExc, SwordType, Effect, CharaEffect, ScrEffect, Picture, Sound, Bgm };
 enum class ePalette { Common, Stage };
 enum class ePaletteList { Block, Chara, Item };
 

@@ -12,19 +12,22 @@
 
 namespace velmora {
 
-cClientArea::cClientArea(cDialog& dialog, QWidget* parent) : QWidget(parent), m_dialog(dialog) {
-  setMouseTracking(true);
-}
+cClientArea::cClientArea(cDialogWindow& window) : QWidget(&window), m_window(window) { setMouseTracking(true); }
 
 void cClientArea::paintEvent(QPaintEvent*) {
+  if (!m_window.Dialog()) return;
   QPainter painter(this);
-  m_dialog.OnPaint(painter);
+  m_window.Dialog()->OnPaint(painter);
 }
 
-void cClientArea::mousePressEvent(QMouseEvent* event) { m_dialog.HandleClientMouse(*event); }
-void cClientArea::mouseReleaseEvent(QMouseEvent* event) { m_dialog.HandleClientMouse(*event); }
-void cClientArea::mouseDoubleClickEvent(QMouseEvent* event) { m_dialog.HandleClientMouse(*event); }
-void cClientArea::mouseMoveEvent(QMouseEvent* event) { m_dialog.HandleClientMouse(*event); }
+void cClientArea::Mouse(QMouseEvent& event) {
+  if (m_window.Dialog()) m_window.Dialog()->HandleClientMouse(event);
+}
+
+void cClientArea::mousePressEvent(QMouseEvent* event) { Mouse(*event); }
+void cClientArea::mouseReleaseEvent(QMouseEvent* event) { Mouse(*event); }
+void cClientArea::mouseDoubleClickEvent(QMouseEvent* event) { Mouse(*event); }
+void cClientArea::mouseMoveEvent(QMouseEvent* event) { Mouse(*event); }
 
 cDialogWindow::cDialogWindow(cDialog& dialog, QWidget* parent, bool asPage)
     : QDialog(parent, asPage ? Qt::Widget : Qt::Dialog), m_pDialog(&dialog) {
@@ -33,7 +36,7 @@ cDialogWindow::cDialogWindow(cDialog& dialog, QWidget* parent, bool asPage)
   frame->setSpacing(0);
   m_pBody = new QGridLayout;
   m_pBody->setSpacing(0);
-  m_pClient = new cClientArea(dialog, this);
+  m_pClient = new cClientArea(*this);
   m_pBody->addWidget(m_pClient, 0, 0);
   m_pBody->setRowStretch(0, 1);
   m_pBody->setColumnStretch(0, 1);

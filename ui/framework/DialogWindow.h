@@ -10,12 +10,13 @@ class QToolBar;
 namespace velmora {
 
 class cDialog;
+class cDialogWindow;
 
 // The drawing and mouse surface of a window. Mouse coordinates of the
 // framework are relative to it.
 class cClientArea : public QWidget {
  public:
-  cClientArea(cDialog& dialog, QWidget* parent);
+  explicit cClientArea(cDialogWindow& window);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -25,7 +26,9 @@ class cClientArea : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
-  cDialog& m_dialog;
+  void Mouse(QMouseEvent& event);
+  // A window closed by its dialog may live on for a moment without it.
+  cDialogWindow& m_window;
 };
 
 // The Qt window behind a cDialog: tool bar, client area with the window's
@@ -37,6 +40,7 @@ class cDialogWindow : public QDialog {
   ~cDialogWindow() override;
 
   void Detach() { m_pDialog = nullptr; }
+  cDialog* Dialog() const { return m_pDialog; }
   cClientArea* Client() const { return m_pClient; }
   QGridLayout* Body() const { return m_pBody; }
   QToolBar* ToolBar();

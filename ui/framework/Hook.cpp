@@ -100,9 +100,10 @@ bool cHook::OnKey(QObject* receiver, QKeyEvent& event, bool down) {
     return down && key == Qt::Key_Escape && !g_composing && active && !IsStockBox(active);
   }
   const bool modeless = window->property(kModelessProperty).toBool();
+  const bool ctrl = g_ctrlHeld || (event.modifiers() & Qt::ControlModifier);
   if (!down) {
     if (key == Qt::Key_Control) g_ctrlHeld = false;
-    if (!(modeless && g_ctrlHeld)) Post(window, cHookKeyEvent::KeyUp, event);
+    if (!(modeless && ctrl)) Post(window, cHookKeyEvent::KeyUp, event);
     return false;
   }
   if (key == Qt::Key_Tab || key == Qt::Key_Backtab) return false;
@@ -112,7 +113,7 @@ bool cHook::OnKey(QObject* receiver, QKeyEvent& event, bool down) {
     return false;
   }
   if (key == Qt::Key_Control) g_ctrlHeld = true;
-  if (!(modeless && g_ctrlHeld)) Post(window, cHookKeyEvent::KeyDown, event);
+  if (!(modeless && (ctrl || g_ctrlHeld))) Post(window, cHookKeyEvent::KeyDown, event);
   return false;
 }
 

@@ -22,6 +22,12 @@ namespace {
 constexpr int kNumberWidth = 90;
 constexpr int kLineHeight = 18;
 
+// Lines end in a stretch, so that narrow controls and their units stay
+// together at the left; later widgets go in before it.
+void Append(QHBoxLayout& line, QWidget* widget, bool stretch) {
+  line.insertWidget(line.count() - 1, widget, stretch ? 1 : 0);
+}
+
 // Makes the widgets of one descriptor into `line`.
 class cWidgetMaker {
  public:
@@ -58,8 +64,7 @@ class cWidgetMaker {
   void Add(int id, QWidget* widget, bool stretch) {
     if (!widget) return;
     if (id != 0) m_items.Set(id, widget);
-    if (stretch) m_line.addWidget(widget, 1);
-    else m_line.addWidget(widget, 0, Qt::AlignLeft);
+    Append(m_line, widget, stretch);
   }
 
   QWidget& m_parent;
@@ -83,6 +88,7 @@ class cFormBuilder {
     if (!m_pGrid || !SameGroup(row.group, m_pGroup)) StartGroup(row.group);
     if (!row.sameLine || !m_pLine) {
       m_pLine = new QHBoxLayout;
+      m_pLine->addStretch(0);
       const int r = m_pGrid->rowCount();
       if (row.label) {
         m_pGrid->addWidget(new QLabel(Ui(row.label), &m_client), r, 0);
@@ -91,11 +97,11 @@ class cFormBuilder {
         m_pGrid->addLayout(m_pLine, r, 0, 1, 2);
       }
     } else if (row.label) {
-      m_pLine->addWidget(new QLabel(Ui(row.label), &m_client));
+      Append(*m_pLine, new QLabel(Ui(row.label), &m_client), false);
     }
     cWidgetMaker maker(m_client, *m_pLine, m_items);
     std::visit(maker, row.control);
-    if (row.suffix) m_pLine->addWidget(new QLabel(Ui(row.suffix), &m_client));
+    if (row.suffix) Append(*m_pLine, new QLabel(Ui(row.suffix), &m_client), false);
   }
 
   void AddOkCancel() {

@@ -1,5 +1,6 @@
 #include "ui/framework/Sheet.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QPushButton>
@@ -57,6 +58,10 @@ void cSheet::Build() {
   QObject::connect(buttons, &QDialogButtonBox::rejected, m_pWindow, [this] { Close(0); });
   if (!m_bModal) {
     QObject::connect(m_pWindow, &QDialog::finished, m_pWindow, [this] { m_pWindow->deleteLater(); });
+    // The manager tears a closed sheet down from its filter; an event makes
+    // sure the filter runs even when nothing else happens.
+    QObject::connect(m_pWindow, &QObject::destroyed, &m_manager,
+                     [&manager = m_manager] { QCoreApplication::postEvent(&manager, new QEvent(QEvent::User)); });
   }
 }
 

@@ -93,35 +93,29 @@ TEST_F(DialogFramework, ModelessWindowsEnterAndLeaveTheManager) {
   EXPECT_TRUE(manager.Contains(&dialog));
 }
 
-TEST_F(DialogFramework, ModalFlagFourDisablesOthersUntilItReturns) {
+// Each modal flag leaves the other windows changed while the dialog runs,
+// and restores them whichever way it closes.
+TEST_F(DialogFramework, ModalFlagsHideOrDisableOthersUntilTheDialogReturns) {
   cSampleDialog other(manager, record);
   other.Create(0, true);
-  cSampleRecord second;
-  cSampleDialog modal(manager, second);
-  bool disabledInside = false;
-  WhenModal([&](QWidget*) {
-    disabledInside = !other.Window()->isEnabled();
-    modal.SendCommand(MakeCommand(kIdCancel, kNoticeClicked), 0);
-  });
-  EXPECT_EQ(modal.DoModal(cDialog::kDisableOthers), 0);
-  EXPECT_TRUE(disabledInside);
-  EXPECT_TRUE(other.Window()->isEnabled());
-  EXPECT_FALSE(manager.Contains(&modal));  // modal dialogs aren't entered
-}
-
-TEST_F(DialogFramework, ModalFlagTwoHidesOthers) {
-  cSampleDialog other(manager, record);
-  other.Create(0, true);
-  cSampleRecord second;
-  cSampleDialog modal(manager, second);
-  bool hiddenInside = false;
-  WhenModal([&](QWidget*) {
-    hiddenInside = other.Window()->isHidden();
-    modal.SendCommand(MakeCommand(kIdOk, kNoticeClicked), 0);
-  });
-  EXPECT_EQ(modal.DoModal(cDialog::kHideOthers), 1);
-  EXPECT_TRUE(hiddenInside);
-  EXPECT_TRUE(other.Window()->isVisible());
+  struct cCase {
+    int flags;
+    int closeId;
+  };
+  for (const cCase& c : {cCase{cDialog::kDisableOthers, kIdCancel}, cCase{cDialog::kHideOthers, kIdOk}}) {
+    cSampleRecord second;
+    cSampleDialog modal(manager, second);
+    bool changedInside = false;
+    WhenModal([&](QWidget*) {
+      changedInside = c.flags == cDialog::kDisableOthers ? !other.Window()->isEnabled() : other.Window()->isHidden();
+      modal.SendCommand(MakeCommand(c.closeId, kNoticeClicked), 0);
+    });
+    EXPECT_EQ(modal.DoModal(c.flags), c.closeId == kIdOk ? 1 : 0);
+    EXPECT_TRUE(changedInside) << c.flags;
+    EXPECT_TRUE(other.Window()->isEnabled());
+    EXPECT_TRUE(other.Window()->isVisible());
+    EXPECT_FALSE(manager.Contains(&modal));  // modal dialogs aren't entered
+  }
 }
 
 class cPageDialog : public cSampleDialog {

@@ -30,6 +30,19 @@ bool HasFocus(const cDialog& dialog, int focusId) {
   return item && focus && (focus == item || item->isAncestorOf(focus));
 }
 
+// A window that goes without having been entered points at a fault in the
+// window's own bookkeeping; the author is told.
+template <class T>
+bool RemoveEntry(std::list<T*>& entries, T* entry) {
+  const auto found = std::find(entries.begin(), entries.end(), entry);
+  if (found == entries.end()) {
+    ErrorBoxText(SysText("ウインドウの破棄に失敗！"));
+    return false;
+  }
+  entries.erase(found);
+  return true;
+}
+
 }  // namespace
 
 cDialogManager::cDialogManager() {
@@ -44,29 +57,13 @@ void cDialogManager::Add(cDialog* dialog) {
   if (!Contains(dialog)) m_windows.push_back(dialog);
 }
 
-bool cDialogManager::Remove(cDialog* dialog) {
-  const auto found = std::find(m_windows.begin(), m_windows.end(), dialog);
-  if (found == m_windows.end()) {
-    ErrorBoxText(SysText("ウインドウの破棄に失敗！"));
-    return false;
-  }
-  m_windows.erase(found);
-  return true;
-}
+bool cDialogManager::Remove(cDialog* dialog) { return RemoveEntry(m_windows, dialog); }
 
 void cDialogManager::AddSheet(cSheet* sheet) {
   if (std::find(m_sheets.begin(), m_sheets.end(), sheet) == m_sheets.end()) m_sheets.push_back(sheet);
 }
 
-bool cDialogManager::RemoveSheet(cSheet* sheet) {
-  const auto found = std::find(m_sheets.begin(), m_sheets.end(), sheet);
-  if (found == m_sheets.end()) {
-    ErrorBoxText(SysText("ウインドウの破棄に失敗！"));
-    return false;
-  }
-  m_sheets.erase(found);
-  return true;
-}
+bool cDialogManager::RemoveSheet(cSheet* sheet) { return RemoveEntry(m_sheets, sheet); }
 
 bool cDialogManager::Contains(const cDialog* dialog) const {
   return std::find(m_windows.begin(), m_windows.end(), dialog) != m_windows.end();

@@ -38,7 +38,8 @@ cDialog* cSheet::CurrentPage() const { return m_pTabs && m_pWindow ? Page(m_pTab
 void cSheet::PageChanged(cDialog*) { m_bChanged = true; }
 
 void cSheet::Build() {
-  m_pWindow = new QDialog(m_pOwner);
+  m_pDialog = new QDialog(m_pOwner);
+  m_pWindow = m_pDialog;
   m_pWindow->setWindowTitle(m_title);
   auto* column = new QVBoxLayout(m_pWindow);
   m_pTabs = new QTabWidget(m_pWindow);
@@ -52,12 +53,12 @@ void cSheet::Build() {
   buttons->addButton(Ui("OK"), QDialogButtonBox::AcceptRole)->setDefault(true);
   buttons->addButton(Ui("キャンセル"), QDialogButtonBox::RejectRole);
   column->addWidget(buttons);
-  QObject::connect(buttons, &QDialogButtonBox::accepted, m_pWindow, [this] {
+  QObject::connect(buttons, &QDialogButtonBox::accepted, m_pDialog, [this] {
     if (ApplyPages()) Close(1);
   });
-  QObject::connect(buttons, &QDialogButtonBox::rejected, m_pWindow, [this] { Close(0); });
+  QObject::connect(buttons, &QDialogButtonBox::rejected, m_pDialog, [this] { Close(0); });
   if (!m_bModal) {
-    QObject::connect(m_pWindow, &QDialog::finished, m_pWindow, [this] { m_pWindow->deleteLater(); });
+    QObject::connect(m_pDialog, &QDialog::finished, m_pDialog, [this] { m_pDialog->deleteLater(); });
     // The manager tears a closed sheet down from its filter; an event makes
     // sure the filter runs even when nothing else happens.
     QObject::connect(m_pWindow, &QObject::destroyed, &m_manager,
@@ -70,7 +71,7 @@ int cSheet::Start() {
   m_nResult = 0;
   Build();
   if (m_bModal) {
-    m_pWindow->exec();
+    m_pDialog->exec();
     delete m_pWindow.data();
     return m_nResult;
   }
@@ -90,7 +91,7 @@ bool cSheet::ApplyPages() {
 void cSheet::Close(int result) {
   m_nResult = result;
   if (!m_pWindow) return;
-  m_pWindow->done(result);
+  m_pDialog->done(result);
 }
 
 }  // namespace velmora

@@ -58,7 +58,10 @@ class cSheet {
   bool m_bStarted = false;
   bool m_bChanged = false;
   int m_nResult = 0;
-  QPointer<QDialog> m_pWindow;
+  // Held as a QWidget: the manager may ask about the window while it is
+  // being destroyed, when it is no longer a QDialog.
+  QPointer<QWidget> m_pWindow;
+  QDialog* m_pDialog = nullptr;  // the same window, valid while m_pWindow is
   QTabWidget* m_pTabs = nullptr;
   std::vector<std::unique_ptr<cDialog>> m_pages;
   std::vector<QString> m_tabTitles;

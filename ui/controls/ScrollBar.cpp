@@ -1,0 +1,40 @@
+#include "ui/controls/ScrollBar.h"
+
+#include <QMouseEvent>
+
+#include "ui/framework/Dialog.h"
+
+namespace velmora {
+namespace {
+
+class cRightButtonFilter : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    const bool mouse = event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::MouseButtonPress;
+    return mouse && static_cast<QMouseEvent*>(event)->button() == Qt::RightButton;
+  }
+};
+
+}  // namespace
+
+cScrollBar::cScrollBar(cDialog& parent, QScrollBar* bar, int id)
+    : cControl(eControlKind::ScrollBar, id, parent, bar), m_pBar(bar), m_pRightFilter(new cRightButtonFilter(bar)) {
+  bar->installEventFilter(m_pRightFilter);
+  bar->setContextMenuPolicy(Qt::NoContextMenu);
+  SetRange(0, 0);
+  SetPage(0);
+  Listen(bar, &QScrollBar::actionTriggered, [this](int action) { Parent().Scroll(m_pBar, action); });
+}
+
+cScrollBar::~cScrollBar() {
+  if (Widget()) delete m_pRightFilter;
+}
+
+void cScrollBar::SetRange(int minimum, int maximum) { m_pBar->setRange(minimum, maximum); }
+
+void cScrollBar::SetPage(int page) { m_pBar->setPageStep(page); }
+
+}  // namespace velmora

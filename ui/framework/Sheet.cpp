@@ -1,0 +1,97 @@
+#include "ui/framework/Sheet.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "ui/framework/Dialog.h"
+#include "ui/framework/DialogManager.h"
+#include "ui/framework/QtText.h"
+
+namespace velmora {
+
+cSheet::cSheet(cDialogManager& manager, QWidget* owner, const QString& title, bool modal)
+    : m_manager(manager), m_pOwner(owner), m_title(title), m_bModal(modal) {}
+
+cSheet::~cSheet() {
+  m_pages.clear();
+  delete m_pWindow.data();
+}
+
+void cSheet::AddPage(std::unique_ptr<cDialog> page, const QString& tabTitle) {
+  page->SetPageOf(this);
+  m_pages.push_back(std::move(page));
+  m_tabTitles.push_back(tabTitle);
+}
+
+QWidget* cSheet::Window() const { return m_pWindow.data(); }
+
+cDialog* cSheet::Page(int index) const {
+  return index >= 0 && index < PageCount() ? m_pages[static_cast<size_t>(index)].get() : nullptr;
+}
+
+cDialog* cSheet::CurrentPage() const { return m_pTabs && m_pWindow ? Page(m_pTabs->currentIndex()) : nullptr; }
+
+void cSheet::PageChanged(cDialog*) { m_bChanged = true; }
+
+void cSheet::Build() {
+  m_pDialog = new QDialog(m_pOwner);
+  m_pWindow = m_pDialog;
+  m_pWindow->setWindowTitle(m_title);
+  auto* column = new QVBoxLayout(m_pWindow);
+  m_pTabs = new QTabWidget(m_pWindow);
+  column->addWidget(m_pTabs, 1);
+  for (size_t i = 0; i < m_pages.size(); ++i) {
+    cDialog& page = *m_pages[i];
+    page.CreatePage(m_pTabs, !m_bModal);
+    m_pTabs->addTab(page.Window(), m_tabTitles[i]);
+  }
+  auto* buttons = new QDialogButtonBox(m_pWindow);
+  buttons->addButton(Ui("OK"), QDialogButtonBox::AcceptRole)->setDefault(true);
+  buttons->addButton(Ui("キャンセル"), QDialogButtonBox::RejectRole);
+  column->addWidget(buttons);
+  QObject::connect(buttons, &QDialogButtonBox::accepted, m_pDialog, [this] {
+    if (ApplyPages()) Close(1);
+  });
+  QObject::connect(buttons, &QDialogButtonBox::rejected, m_pDialog, [this] { Close(0); });
+  if (!m_bModal) {
+    QObject::connect(m_pDialog, &QDialog::finished, m_pDialog, [this] { m_pDialog->deleteLater(); });
+    // The manager tears a closed sheet down from its filter; an event makes
+    // sure the filter runs even when nothing else happens.
+    QObject::connect(m_pWindow, &QObject::destroyed, &m_manager,
+                     [&manager = m_manager] { QCoreApplication::postEvent(&manager, new QEvent(QEvent::User)); });
+  }
+}
+
+int cSheet::Start() {
+  m_bStarted = true;
+  m_nResult = 0;
+  Build();
+  if (m_bModal) {
+    m_pDialog->exec();
+    delete m_pWindow.data();
+    return m_nResult;
+  }
+  m_manager.AddSheet(this);
+  m_pWindow->show();
+  return 1;
+}
+
+bool cSheet::ApplyPages() {
+  for (const auto& page : m_pages) {
+    page->ApplyAll();
+    if (!page->OnApplyPage()) return false;
+  }
+  return OnApply();
+}
+
+void cSheet::Close(int result) {
+  m_nResult = result;
+  if (!m_pWindow) return;
+  m_pDialog->done(result);
+}
+
+}  // namespace velmora

@@ -1,0 +1,70 @@
+#pragma once
+#include <QDialog>
+#include <QPointer>
+#include <QString>
+#include <memory>
+#include <vector>
+
+class QTabWidget;
+class QWidget;
+
+namespace velmora {
+
+class cDialog;
+class cDialogManager;
+
+// Tabbed pages in one window with OK and Cancel. The sheet owns its pages;
+// a subclass adds them in order and then starts the sheet. OK applies every
+// page (its fields, then its own apply) and then the sheet's own apply;
+// a page or the sheet that refuses keeps the sheet open.
+class cSheet {
+ public:
+  cSheet(cDialogManager& manager, QWidget* owner, const QString& title, bool modal);
+  virtual ~cSheet();
+  cSheet(const cSheet&) = delete;
+  cSheet& operator=(const cSheet&) = delete;
+
+  void AddPage(std::unique_ptr<cDialog> page, const QString& tabTitle);
+  // Modal: runs to the end and gives 1 for OK, 0 for Cancel. Modeless:
+  // shows the sheet and gives 1; the manager deletes a modeless sheet
+  // once the author closed it.
+  int Start();
+  void Close(int result);
+
+  QWidget* Window() const;
+  cDialog* CurrentPage() const;
+  cDialog* Page(int index) const;
+  int PageCount() const { return static_cast<int>(m_pages.size()); }
+  bool IsFinished() const { return m_bStarted && !m_pWindow; }
+  bool IsModal() const { return m_bModal; }
+  bool HasChanges() const { return m_bChanged; }
+  // A page tells the sheet that the author changed something on it.
+  void PageChanged(cDialog* page);
+  // OK: every page, then the sheet. Public so that a test or a caller can
+  // press OK without the mouse.
+  bool ApplyPages();
+
+ protected:
+  // After all pages applied: saving what the pages changed.
+  virtual bool OnApply() { return true; }
+
+ private:
+  void Build();
+
+  cDialogManager& m_manager;
+  QPointer<QWidget> m_pOwner;
+  QString m_title;
+  bool m_bModal;
+  bool m_bStarted = false;
+  bool m_bChanged = false;
+  int m_nResult = 0;
+  // Held as a QWidget: the manager may ask about the window while it is
+  // being destroyed, when it is no longer a QDialog.
+  QPointer<QWidget> m_pWindow;
+  QDialog* m_pDialog = nullptr;  // the same window, valid while m_pWindow is
+  QTabWidget* m_pTabs = nullptr;
+  std::vector<std::unique_ptr<cDialog>> m_pages;
+  std::vector<QString> m_tabTitles;
+};
+
+}  // namespace velmora

@@ -8,6 +8,7 @@
 #include "inspect/StagePaletteFile.h"
 #include "objects/GValInfo.h"
 #include "objects/Palette.h"
+#include "stage/Stage.h"
 
 namespace velmora::inspect {
 namespace {
@@ -45,6 +46,7 @@ const std::vector<cFileKind>& FileKinds() {
       {"CommonPalette", "*.cplt4", &cRecordFile<cPalette>::Load},
       {"StagePalette", "*.plt4", &LoadStagePaletteFile},
       {"GValInfo", "GValInfo.dat", &cRecordFile<cCommonVarFile>::Load},
+      {"Stage", "*.stg4", &cRecordFile<cStage>::Load},
   };
   return kinds;
 }

@@ -34,3 +34,14 @@ bool SaveCommonPalette();
 int AskSaveBeforeExit();
 
 }  // namespace velmora
+
+namespace velmora {
+
+enum eNewStagePalette { kNewPaletteFromTemplate = 0, kNewPaletteEmpty = 1, kNewPaletteFromCommon = 2, kNewPaletteFromFile = 3 };
+
+// The new-stage dialog's OK: the template (any version of it, the newest
+// is read; empty for a default stage) and where the stage palette comes
+// from. 0 leaves the dialog open (the author kept the stage) or cancelled.
+int CreateNewStage(const std::string& templatePath, int paletteSource, const std::string& palettePath);
+
+}  // namespace velmora

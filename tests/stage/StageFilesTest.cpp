@@ -116,5 +116,27 @@ TEST_F(cStageFilesTest, LeavingAsksForStageThenCommonPalette) {
   EXPECT_TRUE(StageEdit().m_strPath.empty());
 }
 
+TEST_F(cStageFilesTest, NewStageReadsTheNewestTemplateAndItsPaletteSource) {
+  EditStage().m_vecBlockPlt.resize(5);
+  EditStage().m_vecBlockPlt[4].m_nGraphicNo = 9;
+  StageEdit().m_bStageChanged = 1;
+  ASSERT_EQ(1, SaveStage(1));
+  StageEdit().m_bHasStage = 1;
+
+  EXPECT_EQ(0, CreateNewStage("", kNewPaletteEmpty, ""));  // the author keeps the open stage
+  m_prompt.QueueAnswer(eAnswer::Yes);
+  ASSERT_EQ(1, CreateNewStage("data\\stg4\\a.stg4_700", kNewPaletteFromTemplate, ""));
+  EXPECT_TRUE(EditStage().HasPlayer());
+  EXPECT_EQ(9, EditStage().m_vecBlockPlt[4].m_nGraphicNo);
+  EXPECT_TRUE(StageEdit().m_strPath.empty());
+
+  m_prompt.QueueAnswer(eAnswer::Yes);
+  ASSERT_EQ(1, CreateNewStage("data\\stg4\\a.stg4_700", kNewPaletteEmpty, ""));
+  EXPECT_EQ(2u, EditStage().m_vecBlockPlt.size());
+
+  m_prompt.QueueAnswer(eAnswer::Yes);
+  EXPECT_EQ(0, CreateNewStage("", kNewPaletteFromFile, "data\\plt4\\none.plt4"));
+}
+
 }  // namespace
 }  // namespace velmora

@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "inspect/FileKinds.h"
 #include "objects/OldFile.h"
 #include "objects/RefSizes.h"
 #include "stage/Stage.h"
@@ -242,6 +243,20 @@ TEST(StageFileTest, ImpossibleSizeInAFileIsRefusedWithoutAllocating) {
   loaded.LoadFile("a.stg4_950");
   EXPECT_EQ(20, loaded.m_nWidth);
   EXPECT_EQ(480u, loaded.m_vecCharaCell.size());
+}
+
+TEST(StageFileTest, InspectorDumpsAndResavesAStageFile) {
+  cTempProject project;
+  cStage stage = NewStage();
+  PutBlock(stage, 2, 3, 4);
+  ASSERT_EQ(1, stage.SaveFile("a.stg4_950"));
+  const inspect::cFileKind* kind = inspect::FindFileKind("data\\stg4\\a.stg4_950");
+  ASSERT_NE(nullptr, kind);
+  std::unique_ptr<inspect::cLoadedFile> loaded = kind->load("a.stg4_950");
+  ASSERT_NE(nullptr, loaded);
+  EXPECT_NE(std::string::npos, loaded->Json().find("m_vecBlockCell"));
+  ASSERT_TRUE(loaded->Save("b.stg4_950"));
+  EXPECT_EQ(ReadBytes("a.stg4_950"), ReadBytes("b.stg4_950"));
 }
 
 }  // namespace

@@ -32,6 +32,9 @@ int SaveStagePalette();
 bool SaveCommonPalette();
 // 0 keeps the stage window open.
 int AskSaveBeforeExit();
+// At start-up: the stage edited last, read on this thread; a stage that
+// can't be read leaves an empty 32 x 32 one with no file.
+void OpenLastStage(const std::string& path);
 
 }  // namespace velmora
 

@@ -201,6 +201,21 @@ int OpenStage() {
   return 1;
 }
 
+void OpenLastStage(const std::string& path) {
+  cStageEdit& edit = StageEdit();
+  edit.m_bHasStage = 0;
+  edit.m_strPath.clear();
+  if (path.empty()) return;
+  CheckStageFile(path);
+  if (EditStage().LoadFile(path)) {
+    edit.m_bHasStage = 1;
+    edit.m_strPath = path;
+    return;
+  }
+  EditStage().InitDefault();
+  EditStage().SetSize(32, 32, 0, 0);
+}
+
 void CloseStage() {
   cStageEdit& edit = StageEdit();
   edit.m_bHasStage = 0;

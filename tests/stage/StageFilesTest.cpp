@@ -116,6 +116,15 @@ TEST_F(cStageFilesTest, LeavingAsksForStageThenCommonPalette) {
   EXPECT_TRUE(StageEdit().m_strPath.empty());
 }
 
+TEST_F(cStageFilesTest, StartUpOpensTheLastStageOrAnEmptyOne) {
+  OpenLastStage(".\\data\\stg4\\a.stg4_950");
+  EXPECT_EQ(1, StageEdit().m_bHasStage);
+  EXPECT_TRUE(EditStage().HasPlayer());
+  OpenLastStage(".\\data\\stg4\\gone.stg4_950");
+  EXPECT_EQ(0, StageEdit().m_bHasStage);
+  EXPECT_EQ(32, EditStage().m_nWidth);
+}
+
 TEST_F(cStageFilesTest, NewStageReadsTheNewestTemplateAndItsPaletteSource) {
   EditStage().m_vecBlockPlt.resize(5);
   EditStage().m_vecBlockPlt[4].m_nGraphicNo = 9;

@@ -12,6 +12,7 @@
 #include "project/Database.h"
 #include "project/SystemRecord.h"
 #include "project/WorldMap.h"
+#include "stage/Stage.h"
 
 namespace velmora::inspect {
 namespace {
@@ -67,8 +68,8 @@ const std::vector<cFileKind>& FileKinds() {
       {"Bgm", "Bgm.dat", &cRecordFile<cDbList<cEdBgm>>::Load},
       {"WorldMap", "WorldMap.dat", &cRecordFile<cEdWorldMap>::Load},
       {"System", "System.dat", &LoadSystem},
-      {"GValInfo", "GValInfo.dat", cRecordFile<cCommonVarFile>::Load},
       {"StagePalette", "*.plt4", &cRecordFile<cStagePaletteFile>::Load},
+      {"Stage", "*.stg4", &cRecordFile<cStage>::Load},
   };
   return kinds;
 }

@@ -1,0 +1,91 @@
+#include "core/AppControl.h"
+#include "core/Log.h"
+#include "core/PrjOption.h"
+#include "core/Prompt.h"
+#include "core/SystemText.h"
+#include "objects/Inherit.h"
+#include "objects/Palette.h"
+#include "platform/FileSystem.h"
+#include "stage/Stage.h"
+#include "stage/StageEdit.h"
+
+namespace velmora {
+namespace {
+
+template <class T>
+void CopyFromCommon(std::vector<T>& list, const std::vector<T>& common, eEntryKind kind) {
+  const PrjOption& option = ProjectOption();
+  list = common;
+  if (list.empty()) return;
+  list[0].ResetEntry();
+  for (size_t i = 1; i < list.size(); ++i) {
+    SetInherit(list[i], option.m_anDefSrc[kMomentStage][kind], static_cast<int>(i), option.m_vDefFlags[kMomentStage][kind]);
+  }
+}
+
+bool ReadTemplate(const std::string& templatePath) {
+  cStage& stage = EditStage();
+  if (templatePath.empty()) {
+    stage.InitDefault();
+    stage.Normalize();
+    return true;
+  }
+  std::string found;
+  return FindLatestVersion(found, templatePath, "stg4") && stage.LoadFile(found);
+}
+
+bool ReadPaletteFile(const std::string& path) {
+  DataFilePtr file = OpenRead(path);
+  if (!file) return false;
+  ReadPaletteLists(EditStage().Palette(), *file);
+  CloseData(file);
+  return true;
+}
+
+}  // namespace
+
+int CreateNewStage(const std::string& templatePath, int paletteSource, const std::string& palettePath) {
+  cStageEdit& edit = StageEdit();
+  if (edit.m_bHasStage &&
+      Prompt().Ask(nullptr, SysText("新規作成の確認"), SysText("現在のステージは破棄されます。\n新規作成しますか？\n"),
+                   eButtons::YesNo, eIcon::Question) != eAnswer::Yes) {
+    return 0;
+  }
+  if (paletteSource == kNewPaletteFromFile && !FileExists(palettePath)) {
+    ErrorBox(SysText("ステージパレットファイル %s が見つかりません！"), palettePath.c_str());
+    return 0;
+  }
+  if (!ReadTemplate(templatePath)) {
+    ErrorBox(SysText("ステージファイル %s が見つかりません！"), templatePath.c_str());
+    return 0;
+  }
+  cStage& stage = EditStage();
+  switch (paletteSource) {
+    case kNewPaletteEmpty:
+      stage.m_vecBlockPlt.assign(1, cEdBlock());
+      stage.m_vecCharaPlt.assign(1, cEdChara());
+      stage.m_vecItemPlt.assign(1, cEdItem());
+      break;
+    case kNewPaletteFromCommon:
+      CopyFromCommon(stage.m_vecBlockPlt, CommonPalette().m_vecBlockPlt, kKindBlock);
+      CopyFromCommon(stage.m_vecCharaPlt, CommonPalette().m_vecCharaPlt, kKindChara);
+      CopyFromCommon(stage.m_vecItemPlt, CommonPalette().m_vecItemPlt, kKindItem);
+      break;
+    case kNewPaletteFromFile:
+      if (!ReadPaletteFile(palettePath)) {
+        g_bNoSave = 1;
+        AppControl().DestroyMainWindow();
+        return 0;
+      }
+      break;
+    default:
+      break;
+  }
+  stage.Normalize();
+  edit.m_bHasStage = 1;
+  edit.m_strPath.clear();
+  edit.m_bStageChanged = 0;
+  return 1;
+}
+
+}  // namespace velmora

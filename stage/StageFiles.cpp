@@ -1,0 +1,283 @@
+#include <cstdio>
+
+#include "core/AppControl.h"
+#include "core/Log.h"
+#include "core/PrjOption.h"
+#include "core/ProjectFolder.h"
+#include "core/ProjectPaths.h"
+#include "core/Prompt.h"
+#include "core/SystemText.h"
+#include "objects/Inherit.h"
+#include "objects/Palette.h"
+#include "platform/FileSystem.h"
+#include "stage/Stage.h"
+#include "stage/StageEdit.h"
+
+namespace velmora {
+namespace {
+
+enum eOldStageHandling { kMoveOldToFolder = 0, kKeepOld = 1, kDeleteOld = 2 };
+
+std::string FileNameOf(const std::string& path) {
+  const size_t cut = path.find_last_of('\\');
+  return cut == std::string::npos ? path : path.substr(cut + 1);
+}
+
+std::string ExtensionOf(const std::string& path) {
+  const size_t dot = path.find_last_of('.');
+  return dot == std::string::npos ? std::string() : path.substr(dot + 1);
+}
+
+std::string WithoutExtension(const std::string& path) {
+  const size_t dot = path.find_last_of('.');
+  return dot == std::string::npos ? path : path.substr(0, dot);
+}
+
+std::string Relative(const std::string& path) {
+  return path.rfind(".\\", 0) == 0 ? path : ".\\" + path;
+}
+
+std::string BackupPathOf(const std::string& path) { return PathOf(ePath::Work) + FileNameOf(path); }
+
+void Warn(const char* utf8) { Prompt().Ask(nullptr, SysText("警告"), SysText(utf8), eButtons::Ok, eIcon::Warning); }
+
+void WarnIfFileMissing() {
+  const std::string& path = StageEdit().m_strPath;
+  if (path.empty() || FileExists(path)) return;
+  Warn("現在編集中のステージのファイル名が変更された可能性があります。\nステージファイルを開き直さないとデータの上書き保存やテストプレイに失敗する可能性があります。");
+}
+
+cFilePrompt StageFilePrompt(const char* title, const std::string& pattern) {
+  cFilePrompt request;
+  request.title = SysText(title);
+  request.folder = PathOf(ePath::Stage);
+  const std::string label = "StageFile ( *." + pattern + " )";
+  request.filter = label + std::string(1, '\0') + "*." + pattern + std::string(1, '\0');
+  return request;
+}
+
+cFilePrompt PalettePrompt(const char* title) {
+  cFilePrompt request;
+  request.title = SysText(title);
+  request.folder = "data\\plt4\\";
+  request.filter = std::string("StagePaletteFile ( *.plt4 )") + '\0' + "*.plt4" + '\0';
+  request.defaultExt = ExtOf(eExt::StagePalette);
+  return request;
+}
+
+void ShowProgress(const char* caption, const char* text) { Prompt().ShowMessageWindow(nullptr, SysText(caption), SysText(text)); }
+
+// The file written over its backup: when the write fails, the backup goes
+// back in place, so the author keeps the last good file.
+int OverwriteStage(const std::string& path) {
+  const std::string backup = BackupPathOf(path);
+  const bool backedUp = MoveFileReplacing(path, backup);
+  if (!EditStage().SaveFile(path)) {
+    if (backedUp) MoveFileReplacing(backup, path);
+    ErrorBox(SysText("ステージファイル %s の保存に失敗しました！"), path.c_str());
+    return 0;
+  }
+  if (backedUp && !RemoveFile(backup)) DebugBox("%s", SysText("バックアップファイルの削除に失敗しました！"));
+  return 1;
+}
+
+void HandleOldVersion(const std::string& oldPath) {
+  switch (ProjectOption().m_nOldStage) {
+    case kMoveOldToFolder:
+      MoveFileReplacing(oldPath, PathOf(ePath::StageOldVersions) + FileNameOf(oldPath));
+      break;
+    case kDeleteOld:
+      RemoveFile(oldPath);
+      break;
+    default:
+      break;
+  }
+}
+
+int SaveThroughDialog(int overwrite) {
+  cStageEdit& edit = StageEdit();
+  const std::string oldPath = edit.m_strPath;
+  const std::string extension = CurrentStageExtension();
+  cFilePrompt request = StageFilePrompt("保存先のファイルの選択", extension);
+  request.defaultExt = extension;
+  if (!oldPath.empty() && overwrite) request.initialName = WithoutExtension(oldPath) + "." + extension;
+  std::string chosen;
+  if (!Prompt().SaveFile(nullptr, request, chosen)) {
+    WarnIfFileMissing();
+    return 0;
+  }
+  ShowProgress("ステージの保存", "ステージを保存しています...");
+  const int saved = EditStage().SaveFile(chosen);
+  Prompt().CloseMessageWindow();
+  if (!saved) return 0;
+  edit.m_strPath = Relative(chosen);
+  if (!oldPath.empty() && overwrite && WithoutExtension(oldPath) == WithoutExtension(edit.m_strPath) &&
+      oldPath != edit.m_strPath) {
+    HandleOldVersion(oldPath);
+  }
+  edit.m_bStageChanged = 0;
+  return 1;
+}
+
+}  // namespace
+
+cStageEdit& StageEdit() {
+  static cStageEdit edit;
+  return edit;
+}
+
+std::string CurrentStageExtension() {
+  char text[32];
+  std::snprintf(text, sizeof text, "%s_%u", ExtOf(eExt::Stage).c_str(), static_cast<unsigned>(g_nAppVersion));
+  return text;
+}
+
+int CheckStageFile(const std::string& path) {
+  {
+    DataFilePtr file = OpenRead(path);
+    if (!file) return 1;
+    if (g_nFileVersion < 174) return 1;
+    const long long size = FileSize(path);
+    int32_t word = 0;
+    if (size >= 8 && file->Skip(static_cast<size_t>(size - 8)) && file->ReadInt32(word) && word == StageTrailer) return 1;
+  }
+  const std::string backup = BackupPathOf(path);
+  // Without a backup the broken file is all there is: it stays.
+  if (!FileExists(backup)) {
+    ReportFormat("broken stage file %s has no backup", path.c_str());
+    return 1;
+  }
+  if (!RemoveFile(path)) ErrorBox("%s", SysText("破損ファイルの削除に失敗しました！"));
+  MoveFileReplacing(backup, path);
+  char text[600];
+  std::snprintf(text, sizeof text, SysText("破損ファイル %s を復旧しました！\n※ただし、前回の更新内容が保存されていない可能性があります…"),
+                path.c_str());
+  Prompt().Ask(nullptr, SysText("ファイルの復旧"), text, eButtons::Ok, eIcon::Information);
+  return 1;
+}
+
+int LoadStage(const std::string& path) {
+  CheckStageFile(path);
+  if (EditStage().LoadFile(path)) return 1;
+  ErrorBox(SysText("ステージファイル %s の読み込みに失敗しました！"), path.c_str());
+  return 0;
+}
+
+int SaveStage(int overwrite) {
+  cStage& stage = EditStage();
+  cStageEdit& edit = StageEdit();
+  if (!stage.HasPlayer()) Warn("まだプレイヤーが配置されていないので遊ぶことはできません！");
+  stage.RemoveSurplusPlayers();
+  if (!(overwrite && !edit.m_strPath.empty() && ExtensionOf(edit.m_strPath) == CurrentStageExtension())) {
+    return SaveThroughDialog(overwrite);
+  }
+  if (!edit.m_bStageChanged) return 1;
+  ShowProgress("ステージの保存", "ステージを保存しています...");
+  const int saved = OverwriteStage(edit.m_strPath);
+  Prompt().CloseMessageWindow();
+  if (saved) edit.m_bStageChanged = 0;
+  return saved;
+}
+
+int OpenStage() {
+  std::string path;
+  if (!Prompt().OpenFile(nullptr, StageFilePrompt("読み込むファイルの選択", "stg4_"), path)) {
+    WarnIfFileMissing();
+    return 0;
+  }
+  ShowProgress("ステージの読み込み", "ステージを読み込んでいます...");
+  path = Relative(path);
+  const int loaded = LoadStage(path);
+  Prompt().CloseMessageWindow();
+  if (!loaded) {
+    g_bNoSave = 1;
+    AppControl().DestroyMainWindow();
+    return 0;
+  }
+  cStageEdit& edit = StageEdit();
+  edit.m_bHasStage = 1;
+  edit.m_strPath = path;
+  edit.m_bStageChanged = 0;
+  return 1;
+}
+
+void OpenLastStage(const std::string& path) {
+  cStageEdit& edit = StageEdit();
+  edit.m_bHasStage = 0;
+  edit.m_strPath.clear();
+  if (path.empty()) return;
+  CheckStageFile(path);
+  if (EditStage().LoadFile(path)) {
+    edit.m_bHasStage = 1;
+    edit.m_strPath = path;
+    return;
+  }
+  EditStage().InitDefault();
+  EditStage().SetSize(32, 32, 0, 0);
+}
+
+void CloseStage() {
+  cStageEdit& edit = StageEdit();
+  edit.m_bHasStage = 0;
+  edit.m_strPath.clear();
+  EditStage().InitDefault();
+  edit.m_bStageChanged = 0;
+}
+
+int FindLatestVersion(std::string& out, const std::string& base, const std::string& extension) {
+  return FindVersioned(out, base, extension) ? 1 : 0;
+}
+
+int LoadStagePalette() {
+  std::string path;
+  if (!Prompt().OpenFile(nullptr, PalettePrompt("読み込むファイルの選択"), path)) return 0;
+  DataFilePtr file = OpenRead(path);
+  if (!file) {
+    g_bNoSave = 1;
+    AppControl().DestroyMainWindow();
+    return 0;
+  }
+  cStage& stage = EditStage();
+  ReadPaletteLists(stage.Palette(), *file);
+  CloseData(file);
+  RefreshBlockFromStage(stage.m_vecBlockCell);
+  RefreshCharaFromStage(stage.m_vecCharaCell);
+  RefreshItemFromStage(stage.m_vecItemCell);
+  StageEdit().m_bStageChanged = 1;
+  return 1;
+}
+
+int SaveStagePalette() {
+  std::string path;
+  if (!Prompt().SaveFile(nullptr, PalettePrompt("保存先のファイルの選択"), path)) return 0;
+  DataFilePtr file = OpenWrite(path);
+  if (!file) return 0;
+  WritePaletteLists(EditStage().Palette(), *file);
+  return CloseData(file) ? 1 : 0;
+}
+
+bool SaveCommonPalette() {
+  if (!CommonPalette().SaveFile(PathOf(ePath::CommonPalette))) return false;
+  StageEdit().m_bCommonChanged = 0;
+  return true;
+}
+
+int AskSaveBeforeExit() {
+  cStageEdit& edit = StageEdit();
+  const char* caption = SysText("保存確認");
+  if (edit.m_bHasStage && edit.m_bStageChanged) {
+    const eAnswer answer = Prompt().Ask(nullptr, caption, SysText("ステージが変更された可能性があります。\n保存しますか？"),
+                                        eButtons::YesNoCancel, eIcon::Question);
+    if (answer == eAnswer::Cancel) return 0;
+    if (answer == eAnswer::Yes && SaveStage(1)) edit.m_bStageChanged = 0;
+  }
+  if (edit.m_bCommonChanged) {
+    const eAnswer answer = Prompt().Ask(nullptr, caption, SysText("コモンパレットが変更された可能性があります。\n保存しますか？"),
+                                        eButtons::YesNoCancel, eIcon::Question);
+    if (answer == eAnswer::Cancel) return 0;
+    if (answer == eAnswer::Yes) SaveCommonPalette();
+  }
+  return 1;
+}
+
+}  // namespace velmora

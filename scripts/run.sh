@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Sets up a fresh Debian machine if needed, builds, makes the sample project
-# (once) and shows it: for now through the inspector, which prints the
-# project's files as JSON.
+# (once) and shows it through the inspector: the behaviour of its
+# characters and items as the flow editor lists it, then its files as JSON.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 JOBS="${JOBS:-$(nproc)}"
@@ -14,7 +14,10 @@ ROOT="$PWD"
 SAMPLE="${SAMPLE:-$ROOT/sample}"
 [ -d "$SAMPLE/data" ] || "$ROOT/build/tools/velmora-make-sample" "$SAMPLE"
 cd "$SAMPLE"
-for file in e_data/EditConfig.dat; do
+INSPECT="$ROOT/build/tools/velmora-inspect"
+echo "== behaviour of data/CommonPalette.cplt4"
+"$INSPECT" behaviour data/CommonPalette.cplt4
+for file in data/stg4/Stage1.stg4_950 data/PrjOption.dat data/System.dat e_data/EditConfig.dat; do
   echo "== $file"
-  "$ROOT/build/tools/velmora-inspect" dump "$file"
+  "$INSPECT" dump "$file" | head -60
 done

@@ -1,15 +1,17 @@
 #include <cstdio>
+#include <cstring>
 #include <string>
 
 #include "sample/SampleProject.h"
 
 int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::fputs("usage: velmora-make-sample DIR\n", stderr);
+  const bool fresh = argc == 3 && std::strcmp(argv[1], "--fresh") == 0;
+  if (argc != 2 && !fresh) {
+    std::fputs("usage: velmora-make-sample [--fresh] DIR\n", stderr);
     return 2;
   }
   std::string error;
-  if (!velmora::sample::MakeSampleProject(argv[1], error)) {
+  if (!velmora::sample::MakeSampleProject(argv[argc - 1], fresh, error)) {
     std::fprintf(stderr, "velmora-make-sample: %s\n", error.c_str());
     return 1;
   }

@@ -1,0 +1,47 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "objects/Palette.h"
+#include "project/Database.h"
+#include "sample/SampleProject.h"
+#include "stage/Stage.h"
+#include "support/TempProject.h"
+
+namespace velmora {
+namespace {
+
+// The generated project opens: every file it wrote reads back, with the
+// contents the generator meant.
+TEST(SampleProjectTest, WritesAProjectWhoseFilesReadBack) {
+  testing::cTempProject project;
+  std::string error;
+  ASSERT_TRUE(sample::MakeSampleProject("sample", false, error)) << error;
+  std::filesystem::current_path("sample");
+  for (const char* file : {"data/System.dat", "default/WorldMap.dat", "bmp/plt/Palette.bmp", "wave/free.wav",
+                           "bgm/Free.mid", "bgm/Free.ogg", "e_data/EditConfig.dat"}) {
+    EXPECT_TRUE(std::filesystem::exists(file)) << file;
+  }
+  cPalette palette;
+  ASSERT_EQ(1, palette.LoadFile("data\\CommonPalette.cplt4"));
+  ASSERT_EQ(3u, palette.m_vecCharaPlt.size());
+  EXPECT_EQ(0, palette.m_vecCharaPlt[1].m_nControl);  // the player
+  EXPECT_FALSE(palette.m_vecCharaPlt[2].m_vFlow.empty());
+
+  cStage stage;
+  ASSERT_EQ(1, stage.LoadFile("data\\stg4\\Stage2.stg4_950"));
+  EXPECT_EQ(80, stage.m_nWidth);
+  EXPECT_TRUE(stage.HasPlayer());
+  std::filesystem::current_path("..");
+}
+
+TEST(SampleProjectTest, FreshProjectHasOnlyDefaultData) {
+  testing::cTempProject project;
+  std::string error;
+  ASSERT_TRUE(sample::MakeSampleProject("fresh", true, error)) << error;
+  EXPECT_FALSE(std::filesystem::exists("fresh/data"));
+  EXPECT_TRUE(std::filesystem::exists("fresh/default/stg4/Default.stg4_950"));
+}
+
+}  // namespace
+}  // namespace velmora

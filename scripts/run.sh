@@ -19,5 +19,6 @@ echo "== behaviour of data/CommonPalette.cplt4"
 "$INSPECT" behaviour data/CommonPalette.cplt4
 for file in data/stg4/Stage1.stg4_950 data/PrjOption.dat data/System.dat e_data/EditConfig.dat; do
   echo "== $file"
-  "$INSPECT" dump "$file" | head -60
+  "$INSPECT" dump "$file" >"$ROOT/build/last-dump.json"
+  head -60 "$ROOT/build/last-dump.json"
 done

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "inspect/Inspector.h"
 #include "objects/Palette.h"
 #include "project/Database.h"
 #include "sample/SampleProject.h"
@@ -32,6 +33,11 @@ TEST(SampleProjectTest, WritesAProjectWhoseFilesReadBack) {
   ASSERT_EQ(1, stage.LoadFile("data\\stg4\\Stage2.stg4_950"));
   EXPECT_EQ(80, stage.m_nWidth);
   EXPECT_TRUE(stage.HasPlayer());
+
+  // A stage's own palette reads as behaviour text too.
+  std::string out, err;
+  EXPECT_EQ(0, inspect::RunInspector({"behaviour", "data/stg4/Stage2.stg4_950"}, out, err)) << err;
+  EXPECT_NE(std::string::npos, out.find("chara 001"));
   std::filesystem::current_path("..");
 }
 

@@ -11,6 +11,7 @@
 #include "objects/GValInfo.h"
 #include "platform/FileSystem.h"
 #include "platform/HostPath.h"
+#include "stage/Stage.h"
 
 namespace velmora::inspect {
 namespace {
@@ -31,6 +32,15 @@ bool LoadPaletteOwner(const std::string& storedPath, cBehaviourSource& source) {
   return true;
 }
 
+// A stage shows the entries of its own palette.
+bool LoadStageOwner(const std::string& storedPath, cBehaviourSource& source) {
+  auto stage = std::make_unique<cStage>();
+  if (!stage->LoadFile(storedPath)) return false;
+  source.lists = stage->Palette();
+  source.owner = std::move(stage);
+  return true;
+}
+
 // The files that hold characters and items, by their row in FileKinds(),
 // and the palette their lists stand for, which entry references name.
 struct cBehaviourKind {
@@ -42,6 +52,7 @@ struct cBehaviourKind {
 constexpr cBehaviourKind kBehaviourKinds[] = {
     {"CommonPalette", ePalette::Common, &LoadPaletteOwner<cPalette>},
     {"StagePalette", ePalette::Stage, &LoadPaletteOwner<cStagePaletteFile>},
+    {"Stage", ePalette::Stage, &LoadStageOwner},
 };
 
 const cBehaviourKind* FindBehaviourKind(const std::string& path) {

@@ -51,3 +51,31 @@ TEST(SampleProjectTest, FreshProjectHasOnlyDefaultData) {
 
 }  // namespace
 }  // namespace velmora
+
+#include "project/ProjectRefSizes.h"
+
+namespace velmora {
+namespace {
+
+// Inside a project, resave repairs references against the project's own
+// lists: a character pointing past the database's animation sets loses it.
+TEST(SampleProjectTest, ResaveChecksAgainstTheProjectsLists) {
+  testing::cTempProject project;
+  std::string error;
+  ASSERT_TRUE(sample::MakeSampleProject("p", false, error)) << error;
+  std::filesystem::current_path("p");
+  cPalette palette;
+  ASSERT_EQ(1, palette.LoadFile("data\\CommonPalette.cplt4"));
+  palette.m_vecCharaPlt[2].m_nAnimeSet = 30000;
+  ASSERT_EQ(1, palette.SaveFile("data\\plt4\\bad.cplt4"));
+  std::string out, err;
+  ASSERT_EQ(0, inspect::RunInspector({"resave", "data/plt4/bad.cplt4", "data/plt4/good.cplt4"}, out, err)) << err;
+  InstallRefSizes(nullptr);
+  cPalette repaired;
+  ASSERT_EQ(1, repaired.LoadFile("data\\plt4\\good.cplt4"));
+  EXPECT_EQ(0, repaired.m_vecCharaPlt[2].m_nAnimeSet);
+  std::filesystem::current_path("..");
+}
+
+}  // namespace
+}  // namespace velmora

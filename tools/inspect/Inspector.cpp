@@ -1,5 +1,7 @@
 #include "inspect/Inspector.h"
 
+#include "project/ProjectRefSizes.h"
+
 #include "core/SaveData.h"
 #include "inspect/Behaviour.h"
 #include "inspect/FileKinds.h"
@@ -39,6 +41,9 @@ int Dump(const std::string& path, std::string& out, std::string& err) {
 }
 
 int Resave(const std::string& in, const std::string& outPath, std::string& err) {
+  // Inside a project the checks that run while loading see its lists, as
+  // in the editor; elsewhere nothing counts as out of range.
+  InstallProjectRefSizes();
   std::unique_ptr<cLoadedFile> loaded = LoadKnown(in, err);
   if (!loaded) return 1;
   if (!loaded->Save(StoredPath(outPath))) {

@@ -115,13 +115,13 @@ TEST_F(BitmapLoad, DamagedFilesFailClearly) {
 TEST_F(BitmapLoad, DivisorCutsToAlignmentAndSamplesFromTheMiddle) {
   auto pick = [](int x, int y) { return (x * 3 + y * 5) & 0xFF; };
   WriteImage("big.bmp", IndexedImage(100, 40, pick));
-  cSurfaceSpec spec;
-  spec.name = "big.bmp";
-  spec.divisor = 2;
-  spec.alignX = 32;
-  spec.cellWidth = 32;
+  cSurfaceSpec request;
+  request.name = "big.bmp";
+  request.divisor = 2;
+  request.alignX = 32;
+  request.cellWidth = 32;
   cSurface surface;
-  ASSERT_TRUE(surface.Load(spec));
+  ASSERT_TRUE(surface.Load(request));
   EXPECT_EQ(surface.Width(), 48);
   EXPECT_EQ(surface.Height(), 20);
   EXPECT_EQ(surface.CellWidth(), 16);
@@ -129,9 +129,9 @@ TEST_F(BitmapLoad, DivisorCutsToAlignmentAndSamplesFromTheMiddle) {
   EXPECT_EQ(*surface.Image().Pixel(0, 3), pick(2 * 15 + 1, 2 * 3 + 1));
   EXPECT_EQ(*surface.Image().Pixel(16, 0), pick(2 * 31 + 1, 1));
 
-  spec.divisor = 0;  // counts as 1
-  spec.cellWidth = 0;
-  ASSERT_TRUE(surface.Load(spec));
+  request.divisor = 0;  // counts as 1
+  request.cellWidth = 0;
+  ASSERT_TRUE(surface.Load(request));
   EXPECT_EQ(surface.Width(), 100);
   EXPECT_EQ(*surface.Image().Pixel(99, 39), pick(99, 39));
 }

@@ -10,10 +10,10 @@ std::vector<cCharaBitmapPair> g_charaBitmaps;
 
 eSurfaceLoad LoadPair(const cCharaBitmapSource& source, cCharaBitmapPair& pair) {
   cSurface sheet;
-  cSurfaceSpec spec;
-  spec.name = source.path;
-  spec.bMask = 1;
-  const eSurfaceLoad result = sheet.TryLoad(spec);
+  cSurfaceSpec request;
+  request.name = source.path;
+  request.bMask = 1;
+  const eSurfaceLoad result = sheet.TryLoad(request);
   if (result != eSurfaceLoad::Ok) return result;
   const int cell = source.cellSize > 0 ? source.cellSize : 32;
   bool made = pair.first.CopyRegionOf(sheet, 0, 0, cell, sheet.Height()) &&

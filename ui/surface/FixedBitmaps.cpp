@@ -43,13 +43,13 @@ bool IsBackground(int index) { return index == kFixedBack || index == kFixedWorl
 std::array<cSurfaceSpec, kFixedBitmapCount> MakeSpecs() {
   std::array<cSurfaceSpec, kFixedBitmapCount> specs;
   for (int i = 0; i < kFixedBitmapCount; ++i) {
-    cSurfaceSpec& spec = specs[static_cast<size_t>(i)];
-    spec.name = kFixedRows[static_cast<size_t>(i)].file;
-    spec.cellWidth = kFixedRows[static_cast<size_t>(i)].cellWidth;
-    spec.bMask = IsBackground(i) ? 0 : 1;
+    cSurfaceSpec& request = specs[static_cast<size_t>(i)];
+    request.name = kFixedRows[static_cast<size_t>(i)].file;
+    request.cellWidth = kFixedRows[static_cast<size_t>(i)].cellWidth;
+    request.bMask = IsBackground(i) ? 0 : 1;
     if (i >= kSheetBlock) {
-      spec.blankWidth = kComposedSheetWidth;
-      spec.blankHeight = kComposedSheetHeight;
+      request.blankWidth = kComposedSheetWidth;
+      request.blankHeight = kComposedSheetHeight;
     }
   }
   return specs;
@@ -92,13 +92,13 @@ bool LoadFixedBitmaps(const std::string& stageBackPath, const std::string& world
   g_specs[kFixedBack].name = stageBackPath;
   g_specs[kFixedWorldBack].name = worldBackPath;
   for (int i = 0; i < kFixedBitmapCount; ++i) {
-    const cSurfaceSpec& spec = g_specs[static_cast<size_t>(i)];
+    const cSurfaceSpec& request = g_specs[static_cast<size_t>(i)];
     if (!IsBackground(i)) {
-      if (!At(i).Load(spec)) return false;
+      if (!At(i).Load(request)) return false;
       continue;
     }
     At(i).Free();
-    if (!spec.name.empty() && At(i).TryLoad(spec) == eSurfaceLoad::OutOfMemory) {
+    if (!request.name.empty() && At(i).TryLoad(request) == eSurfaceLoad::OutOfMemory) {
       StopOutOfMemory();
       return false;
     }

@@ -56,13 +56,13 @@ class cSurface {
 
   // Reports a failure in a box (the out-of-memory stop for a failed
   // allocation) and gives false.
-  bool Load(const cSurfaceSpec& spec);
+  bool Load(const cSurfaceSpec& request);
   // The same without any report.
-  eSurfaceLoad TryLoad(const cSurfaceSpec& spec);
+  eSurfaceLoad TryLoad(const cSurfaceSpec& request);
   bool LoadSimple(const std::string& name, int depth, int bMask, int cellWidth, int cellHeight, int blankWidth,
                   int blankHeight, int divisor);
   // Load from the bytes of a bitmap file, without any report.
-  eSurfaceLoad TryLoadFromMemory(const cSurfaceSpec& spec, const uint8_t* data, size_t size);
+  eSurfaceLoad TryLoadFromMemory(const cSurfaceSpec& request, const uint8_t* data, size_t size);
   // A surface made of a block of another, mask included.
   bool CopyRegionOf(const cSurface& source, int sx, int sy, int w, int h);
   // A new white surface; gives false for a bad size or depth.
@@ -106,7 +106,7 @@ class cSurface {
   bool TransparentBackground() const { return m_transparentBackground; }
 
  private:
-  bool LoadPixels(const cSurfaceSpec& spec, const cBitmapHeader& header, const uint8_t* data, size_t size);
+  bool LoadPixels(const cSurfaceSpec& request, const cBitmapHeader& header, const uint8_t* data, size_t size);
   void MirrorCells();
   void BuildMask();
   void BlackenTransparent();

@@ -61,15 +61,15 @@ void MirrorBlock(cPixelImage& image, int x, int y, int w, int h, bool horizontal
 
 }  // namespace
 
-bool cSurface::Load(const cSurfaceSpec& spec) {
-  switch (TryLoad(spec)) {
+bool cSurface::Load(const cSurfaceSpec& request) {
+  switch (TryLoad(request)) {
     case eSurfaceLoad::Ok:
       return true;
     case eSurfaceLoad::CannotRead:
-      ReportCannotRead(spec.name);
+      ReportCannotRead(request.name);
       return false;
     case eSurfaceLoad::UnsupportedDepth:
-      ReportUnsupportedDepth(spec.name);
+      ReportUnsupportedDepth(request.name);
       return false;
     case eSurfaceLoad::OutOfMemory:
       StopOutOfMemory();
@@ -78,16 +78,16 @@ bool cSurface::Load(const cSurfaceSpec& spec) {
   return false;
 }
 
-eSurfaceLoad cSurface::TryLoad(const cSurfaceSpec& spec) {
+eSurfaceLoad cSurface::TryLoad(const cSurfaceSpec& request) {
   Free();
-  if (spec.name.empty() || spec.name == kBlankSurfaceMarker) {
-    bool made = CreateSurface(spec.blankWidth, spec.blankHeight, spec.depth, spec.bMask != 0);
+  if (request.name.empty() || request.name == kBlankSurfaceMarker) {
+    bool made = CreateSurface(request.blankWidth, request.blankHeight, request.depth, request.bMask != 0);
     return made ? eSurfaceLoad::Ok : eSurfaceLoad::CannotRead;
   }
   cFileBytes file;
-  switch (ReadWholeFile(spec.name, file)) {
+  switch (ReadWholeFile(request.name, file)) {
     case eReadResult::Ok:
-      return TryLoadFromMemory(spec, file.data.get(), file.size);
+      return TryLoadFromMemory(request, file.data.get(), file.size);
     case eReadResult::OutOfMemory:
       return eSurfaceLoad::OutOfMemory;
     case eReadResult::Missing:
@@ -99,31 +99,31 @@ eSurfaceLoad cSurface::TryLoad(const cSurfaceSpec& spec) {
 
 bool cSurface::LoadSimple(const std::string& name, int depth, int bMask, int cellWidth, int cellHeight,
                           int blankWidth, int blankHeight, int divisor) {
-  cSurfaceSpec spec;
-  spec.name = name;
-  spec.depth = depth;
-  spec.bMask = bMask;
-  spec.cellWidth = cellWidth;
-  spec.cellHeight = cellHeight;
-  spec.blankWidth = blankWidth;
-  spec.blankHeight = blankHeight;
-  spec.divisor = divisor;
-  return Load(spec);
+  cSurfaceSpec request;
+  request.name = name;
+  request.depth = depth;
+  request.bMask = bMask;
+  request.cellWidth = cellWidth;
+  request.cellHeight = cellHeight;
+  request.blankWidth = blankWidth;
+  request.blankHeight = blankHeight;
+  request.divisor = divisor;
+  return Load(request);
 }
 
 eSurfaceLoad cSurface::TryLoadFromMemory(const cSurfaceSpec& given, const uint8_t* data, size_t size) {
-  cSurfaceSpec spec = given;
-  spec.divisor = std::max(spec.divisor, 1);
+  cSurfaceSpec request = given;
+  request.divisor = std::max(request.divisor, 1);
   Free();
   cBitmapHeader header;
   if (!ParseBitmapHeader(data, size, header)) return eSurfaceLoad::CannotRead;
   if (!cPixelImage::IsSupportedDepth(header.bitCount)) return eSurfaceLoad::UnsupportedDepth;
-  if (!LoadPixels(spec, header, data, size)) {
+  if (!LoadPixels(request, header, data, size)) {
     Free();
     return eSurfaceLoad::CannotRead;
   }
   MirrorCells();
-  if (spec.bMask) BuildMask();
+  if (request.bMask) BuildMask();
   if (Depth() != 8) BlackenTransparent();
   return eSurfaceLoad::Ok;
 }
@@ -144,7 +144,7 @@ bool cSurface::CopyRegionOf(const cSurface& source, int sx, int sy, int w, int h
 // Creates the surface and fills it from the file's rows, which stand
 // bottom-up and padded to 4 bytes. False when the header's size doesn't fit
 // the file.
-bool cSurface::LoadPixels(const cSurfaceSpec& spec, const cBitmapHeader& header, const uint8_t* data, size_t size) {
+bool cSurface::LoadPixels(const cSurfaceSpec& request, const cBitmapHeader& header, const uint8_t* data, size_t size) {
   const int depth = header.bitCount;
   if (header.width < 1 || header.height < 1 || header.width > cPixelImage::kMaxSide ||
       header.height > cPixelImage::kMaxSide) {
@@ -154,10 +154,10 @@ bool cSurface::LoadPixels(const cSurfaceSpec& spec, const cBitmapHeader& header,
   if (header.dataOffset > size || fileStride * static_cast<size_t>(header.height) > size - header.dataOffset) {
     return false;
   }
-  const int div = spec.divisor;
-  const int width = ScaledSide(header.width, spec.alignX, div);
-  const int height = ScaledSide(header.height, spec.alignY, div);
-  if (!CreateSurface(width, height, depth, spec.bMask != 0, spec.cellWidth / div, spec.cellHeight / div)) {
+  const int div = request.divisor;
+  const int width = ScaledSide(header.width, request.alignX, div);
+  const int height = ScaledSide(header.height, request.alignY, div);
+  if (!CreateSurface(width, height, depth, request.bMask != 0, request.cellWidth / div, request.cellHeight / div)) {
     return false;
   }
   const uint8_t* pixels = data + header.dataOffset;

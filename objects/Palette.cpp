@@ -27,9 +27,7 @@ void FillToTwo(std::vector<T>& list, const T& defaultEntry) {
 void cPalette::Load(cDataFile& file) {
   cSaveData::Load(file);
   ReadPaletteLists(Lists(), file);
-  BlankFirst(m_vecBlockPlt);
-  BlankFirst(m_vecCharaPlt);
-  BlankFirst(m_vecItemPlt);
+  BlankFirstEntries(Lists());
   // The common palette inherits from nothing.
   ClearInheritFlags(m_vecBlockPlt);
   ClearInheritFlags(m_vecCharaPlt);
@@ -47,6 +45,12 @@ void cPalette::VisitNested(cNestedVisitor& visitor) const {
   VisitVector(visitor, "m_vecBlockPlt", m_vecBlockPlt);
   VisitVector(visitor, "m_vecCharaPlt", m_vecCharaPlt);
   VisitVector(visitor, "m_vecItemPlt", m_vecItemPlt);
+}
+
+void BlankFirstEntries(const cPaletteLists& lists) {
+  BlankFirst(*lists.blocks);
+  BlankFirst(*lists.charas);
+  BlankFirst(*lists.items);
 }
 
 void NormalizePalette(const cPaletteLists& lists) {

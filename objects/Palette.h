@@ -24,6 +24,9 @@ class cPalette : public cSaveData {
   cPaletteLists Lists() { return {&m_vecBlockPlt, &m_vecCharaPlt, &m_vecItemPlt}; }
 };
 
+// Element 0 of each list is the blank entry, whatever a file held there.
+void BlankFirstEntries(const cPaletteLists& lists);
+
 // At least two elements per list, the second taken from the project's
 // default entries; then every entry's reference checks.
 void NormalizePalette(const cPaletteLists& lists);

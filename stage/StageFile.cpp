@@ -5,11 +5,6 @@
 namespace velmora {
 namespace {
 
-template <class T>
-void BlankFirst(std::vector<T>& list) {
-  if (!list.empty()) list[0].ResetEntry();
-}
-
 // Each placement holds at least its index and the record's two counts.
 constexpr uint64_t kMinPlacementBytes = 12;
 
@@ -189,9 +184,7 @@ void cStage::Load(cDataFile& file) {
   }
   for (cAutoVanish& vanish : m_aAutoVanish) vanish.Load(file);
   ReadPaletteLists(Palette(), file);
-  BlankFirst(m_vecBlockPlt);
-  BlankFirst(m_vecCharaPlt);
-  BlankFirst(m_vecItemPlt);
+  BlankFirstEntries(Palette());
   m_vecBlockCell.clear();
   m_vecCharaCell.clear();
   m_vecItemCell.clear();

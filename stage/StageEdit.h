@@ -1,5 +1,13 @@
 #pragma once
+#include <array>
+#include <cstdint>
+#include <memory>
 #include <string>
+#include <vector>
+
+#include "objects/Block.h"
+#include "objects/Chara.h"
+#include "objects/Item.h"
 
 namespace velmora {
 
@@ -10,6 +18,57 @@ struct cStageEdit {
   int32_t m_bHasStage = 0;
   int32_t m_bStageChanged = 0;
   int32_t m_bCommonChanged = 0;
+
+  // Undo history: slot 0 is the newest; a slot's mask names the layers it
+  // holds (1 blocks, 2 characters, 4 items).
+  std::vector<std::vector<cEdBlock>> m_vecUndoBlock, m_vecRedoBlock;
+  std::vector<std::vector<cEdChara>> m_vecUndoChara, m_vecRedoChara;
+  std::vector<std::vector<cEdItem>> m_vecUndoItem, m_vecRedoItem;
+  std::vector<uint32_t> m_vecUndoMask, m_vecRedoMask;
+  int32_t m_iUndoNum = 0;
+  int32_t m_iRedoNum = 0;
+  int32_t m_bTestPlay = 0;
+
+  // Tools and brush.
+  int32_t m_iLayer = 0;  // 0 blocks, 1 characters, 2 items
+  int32_t m_iReturnLayer = 0;
+  int32_t m_iTool = 0;
+  int32_t m_iCursorMode = 0;
+  int32_t m_iRightMode = 0;
+  std::vector<cEdBlock> m_vecBrushBlock;
+  std::vector<cEdChara> m_vecBrushChara;
+  std::vector<cEdItem> m_vecBrushItem;
+  int32_t m_iBrushW = 1;
+  int32_t m_iBrushH = 1;
+  int32_t m_iRangeX = -1;
+  int32_t m_iRangeY = -1;
+  int32_t m_bDrag = 0;
+  int32_t m_iLineX = 0, m_iLineY = 0;
+  int32_t m_iRectX = 0, m_iRectY = 0, m_iRectW = 0, m_iRectH = 0;
+  struct cLayerBrush {
+    int32_t m_iPltIndex = 0;
+    int32_t m_iBrushW = 1;
+    int32_t m_iBrushH = 1;
+  };
+  std::array<cLayerBrush, 3> m_aLayerBrush;
+  int32_t m_iPltSource = 0;  // 0 common palette, 1 stage palette
+  int32_t m_iPltIndex = 0;   // -1 when the brush came from the stage
+
+  // Palette clipboard, one slot per layer.
+  std::shared_ptr<cEdBlock> m_pClipBlock;
+  std::shared_ptr<cEdChara> m_pClipChara;
+  std::shared_ptr<cEdItem> m_pClipItem;
+  int32_t m_bClip = 0;
+  int32_t m_iClipIndex = -1;  // -1 when it came from a stage cell
+  int32_t m_iClipSource = 0;
+  int32_t m_bClipCut = 0;
+
+  // What a parameter editor works on: 0 a placed cell, 1 a stage palette
+  // entry, 2 a common palette entry, 3 a default entry of the project option.
+  cEdBlock* m_pEditBlock = nullptr;
+  cEdChara* m_pEditChara = nullptr;
+  cEdItem* m_pEditItem = nullptr;
+  int32_t m_iEditTarget = 0;
 };
 
 cStageEdit& StageEdit();

@@ -164,11 +164,29 @@ TEST_F(ProjectLoadTest, OnlyFilesUpgradedFromOlderVersionsAreWrittenBack) {
   sound.push_back(0x5A);
   WriteBytes(Host(PathOf(ePath::Sound)), sound);
 
+  // An open that fails on a picture, after every file was read, writes nothing.
+  const std::vector<uint8_t> block = ReadBytes("bmp/Block.bmp");
+  fs::remove("bmp/Block.bmp");
+  EXPECT_EQ("bmp\\Block.bmp が読み込めません！", FailureOf("bmp"));
+  EXPECT_EQ(900u, VersionOf(PathOf(ePath::Bgm)));
+  WriteBytes("bmp/Block.bmp", block);
+
   ASSERT_TRUE(LoadProject()) << prompt.LastText();
   EXPECT_EQ(950u, VersionOf(PathOf(ePath::Bgm)));
   EXPECT_EQ(950u, VersionOf(PathOf(ePath::WorldMap)));
   EXPECT_EQ(900u, VersionOf(PathOf(ePath::GValInfo)));
   EXPECT_EQ(sound, ReadBytes(Host(PathOf(ePath::Sound))));
+}
+
+TEST_F(ProjectLoadTest, MissingCharacterPictureIsToldAndTheProjectStillOpens) {
+  const std::string& path = PathOf(ePath::BmpCharaExc);
+  cEdDatabase written;
+  ASSERT_TRUE(written.LoadList(eDbList::BmpCharaExc, path));
+  written.m_CharaBmp.At(1).m_strPath = "bmp\\gone.bmp";
+  ASSERT_EQ(1, written.List(eDbList::BmpCharaExc).SaveFile(path));
+  ASSERT_TRUE(LoadProject());
+  ASSERT_EQ(1u, prompt.Shown().size());
+  EXPECT_EQ("bmp\\gone.bmp の読み込みに失敗！", prompt.LastText());
 }
 
 TEST_F(ProjectLoadTest, ExitKeepsTheLastStageAndNamesOnlyAfterAFullStart) {

@@ -27,7 +27,8 @@ std::string LockFilePath(const std::string& utf8Name) {
 }  // namespace
 
 cInstanceLock::cInstanceLock(const std::string& utf8Name) : m_strPath(LockFilePath(utf8Name)) {
-  m_fd = ::open(m_strPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+  // A link planted under the shared /tmp name is not followed.
+  m_fd = ::open(m_strPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
   if (m_fd < 0) return;
   int result;
   do {

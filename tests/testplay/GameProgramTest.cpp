@@ -158,7 +158,9 @@ TEST_F(cGameProgramTest, DamagedExecutablesAreNoGamesAndReadNothingOutside) {
       // Each file ends in a few bytes the mark doesn't need: the empty
       // strings of a block, the unused end of a table entry.
       const bool marked = MarkedFile(cut);
-      if (size + 28 < good.size()) EXPECT_FALSE(marked) << "cut at " << size;
+      if (size + 28 < good.size()) {
+        EXPECT_FALSE(marked) << "cut at " << size;
+      }
     }
   }
   std::vector<uint8_t> elf = MakeElf(true, false, true, {kGameNote});

@@ -118,7 +118,7 @@ TEST_F(cTestPlayTest, StagePlaySavesWhatTheGameReadsAndHandsItThePath) {
   EXPECT_EQ(1, m_host.activated);
 }
 
-TEST_F(cTestPlayTest, WholeGameTakesNoArgumentAndSavesOnlyWithAStageOpen) {
+TEST_F(cTestPlayTest, WholeGameWithNoStageOpenSavesNothingAndTakesNoArgument) {
   StageEdit().m_bHasStage = 0;
   StageEdit().m_strPath.clear();
   ASSERT_EQ(1, TestPlay(1));
@@ -128,12 +128,6 @@ TEST_F(cTestPlayTest, WholeGameTakesNoArgumentAndSavesOnlyWithAStageOpen) {
   // With no stage path the end has no history to build.
   OnTestPlayEnd();
   EXPECT_EQ(0, m_host.allocated);
-
-  StageEdit().m_bHasStage = 1;
-  StageEdit().m_strPath = kStored;
-  ASSERT_EQ(1, TestPlay(1));
-  EXPECT_EQ((std::vector<std::string>{"game"}), m_host.starts.back());
-  EXPECT_NE(m_savedStage, ReadBytes(kStageHost));
 }
 
 struct cRefusal {

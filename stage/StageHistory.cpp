@@ -1,5 +1,6 @@
 #include "stage/StageHistory.h"
 
+#include <algorithm>
 #include <new>
 
 #include "core/CheckedAccess.h"
@@ -31,6 +32,22 @@ struct cStack {
   int32_t& count;
 
   cLayers Slot(int i) { return {&VecAt(block, i), &VecAt(chara, i), &VecAt(item, i)}; }
+
+  // Moves slot `to - 1` to the front (right) or the front slot to `to - 1`
+  // (left) by swapping buffers: a step is never copied within its stack.
+  void RotateRight(int to) { Rotate(to, [](auto first, auto last) { std::rotate(first, last - 1, last); }); }
+  void RotateLeft(int to) { Rotate(to, [](auto first, auto last) { std::rotate(first, first + 1, last); }); }
+
+ private:
+  template <class Fn>
+  void Rotate(int to, Fn&& rotate) {
+    const auto n = static_cast<std::ptrdiff_t>(std::min<size_t>(static_cast<size_t>(to), masks.size()));
+    if (n < 2) return;
+    rotate(block.begin(), block.begin() + n);
+    rotate(chara.begin(), chara.begin() + n);
+    rotate(item.begin(), item.begin() + n);
+    rotate(masks.begin(), masks.begin() + n);
+  }
 };
 
 cStack UndoStack() {
@@ -48,19 +65,25 @@ cLayers PresentLayers() {
   return {&s.m_vecBlockCell, &s.m_vecCharaCell, &s.m_vecItemCell};
 }
 
-// An empty cell costs one store: a sparse stage copies fast.
+// An empty cell costs one store: a sparse stage copies fast. The bounds
+// are checked once, as the loop runs over every cell of the largest stage.
 template <class T>
 void CopyLayer(std::vector<T>& dst, const std::vector<T>& src) {
   const cStage& stage = EditStage();
+  if (stage.m_nHeight <= 0 || stage.m_nWidth <= 0) return;
+  const int last = stage.CellIndex(stage.m_nWidth - 1, stage.m_nHeight - 1);
+  const size_t shorter = std::min(dst.size(), src.size());
+  if (static_cast<size_t>(last) >= shorter) {
+    BadIndex('V', last, static_cast<int>(shorter), static_cast<int>(sizeof(T)), eBadIndexClose::DestroyAtOnce);
+    return;
+  }
   for (int y = 0; y < stage.m_nHeight; ++y) {
-    for (int x = 0; x < stage.m_nWidth; ++x) {
-      const int index = stage.CellIndex(x, y);
-      const T& from = VecAt(src, index);
-      T& to = VecAt(dst, index);
-      if (IsOccupied(from)) {
-        to = from;
+    const size_t row = static_cast<size_t>(stage.CellIndex(0, y));
+    for (size_t i = row; i < row + static_cast<size_t>(stage.m_nWidth); ++i) {
+      if (IsOccupied(src[i])) {
+        dst[i] = src[i];
       } else {
-        to.m_nGraphicNo = 0;
+        dst[i].m_nGraphicNo = 0;
       }
     }
   }
@@ -72,15 +95,11 @@ void CopyLayers(const cLayers& dst, const cLayers& src, uint32_t mask) {
   if (mask & kLayerItem) CopyLayer(*dst.item, *src.item);
 }
 
-// The oldest step falls off a full stack.
+// The oldest step falls off a full stack: its buffers take the new one.
 void PushStep(uint32_t mask, cStack stack) {
   const int levels = EditStage().m_iUndoCount;
   if (levels <= 0 || StageEdit().m_bTestPlay) return;
-  for (int i = stack.count - 1; i >= 0; --i) {
-    if (i + 1 >= levels) continue;
-    VecAt(stack.masks, i + 1) = VecAt(stack.masks, i);
-    CopyLayers(stack.Slot(i + 1), stack.Slot(i), VecAt(stack.masks, i));
-  }
+  stack.RotateRight(levels);
   VecAt(stack.masks, 0) = mask;
   CopyLayers(stack.Slot(0), PresentLayers(), mask);
   if (stack.count < levels) ++stack.count;
@@ -111,10 +130,7 @@ void StepBack(cStack from, cStack to) {
     if (mask & kLayerChara) InheritOccupied(*present.chara);
     if (mask & kLayerItem) InheritOccupied(*present.item);
   }
-  for (int i = 1; i < from.count; ++i) {
-    VecAt(from.masks, i - 1) = VecAt(from.masks, i);
-    CopyLayers(from.Slot(i - 1), from.Slot(i), VecAt(from.masks, i));
-  }
+  from.RotateLeft(from.count);
   --from.count;
   EditStage().RemoveSurplusPlayers();
 }

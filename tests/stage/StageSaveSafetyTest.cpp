@@ -34,7 +34,7 @@ class cStageSaveSafetyTest : public ::testing::Test {
     StageEdit() = cStageEdit();
     cStage& stage = EditStage();
     stage.InitDefault();
-    stage.SetSize(128, 128, 0, 0);
+    stage.SetSize(64, 64, 0, 0);
     stage.m_strName = "old";
     for (int y = 0; y < stage.m_nHeight; ++y) {
       for (int x = 0; x < stage.m_nWidth; ++x) stage.m_vecBlockCell[stage.CellIndex(x, y)].m_nGraphicNo = 1 + x % 7;
@@ -133,7 +133,7 @@ TEST_F(cStageSaveSafetyTest, WorkerLoadsWhileTheCallerDropsMessagesAndAQuitEndsT
   EditStage().InitDefault();
   ASSERT_EQ(1, LoadStage(kStored));
   EXPECT_EQ("old", EditStage().m_strName);
-  EXPECT_EQ(128, EditStage().m_nWidth);
+  EXPECT_EQ(64, EditStage().m_nWidth);
   EXPECT_GT(drops, 0);
   EXPECT_TRUE(onCaller);
 

@@ -1,6 +1,8 @@
+#include <QAction>
 #include <QApplication>
 #include <QLabel>
 #include <QStatusBar>
+#include <QToolBar>
 #include <QTest>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
@@ -8,6 +10,7 @@
 #include "support/ScriptedPrompt.h"
 #include "support/TempProject.h"
 #include "core/SaveData.h"
+#include "objects/Palette.h"
 #include "core/SystemText.h"
 #include "platform/FileSystem.h"
 #include "sample/SampleProject.h"
@@ -50,6 +53,22 @@ class EditorWindow : public ::testing::Test {
                       Qt::NoScrollPhase, false);
     QApplication::sendEvent(Stage()->Window(), &event);
   }
+  // A mouse event on the stage view at the middle of a visible cell.
+  void Send(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held, int cellX, int cellY) {
+    const QPointF at((cellX - Stage()->ScrollX()) * 32 + 10, (cellY - Stage()->ScrollY()) * 32 + 10);
+    QMouseEvent event(type, at, Client()->mapToGlobal(at), button, held, QGuiApplication::keyboardModifiers());
+    QApplication::sendEvent(Client(), &event);
+  }
+  void Drag(Qt::MouseButton button, cCellPos from, cCellPos to) {
+    Send(QEvent::MouseButtonPress, button, button, from.x, from.y);
+    Send(QEvent::MouseMove, Qt::NoButton, button, (from.x + to.x) / 2, (from.y + to.y) / 2);
+    Send(QEvent::MouseMove, Qt::NoButton, button, to.x, to.y);
+    Send(QEvent::MouseButtonRelease, button, Qt::NoButton, to.x, to.y);
+  }
+  static int BlockAt(const cStage& stage, int x, int y) {
+    return stage.m_vecBlockCell[static_cast<size_t>(stage.CellIndex(x, y))].m_nGraphicNo;
+  }
+
   // Runs the event loop until the stage window shows `title`, as it does
   // once it was built anew.
   bool WaitForTitle(const QString& title) {
@@ -107,7 +126,7 @@ TEST_F(EditorWindow, ClosingTheStageRebuildsAnEmptyWindow) {
   // Without a stage the view stays black and the stage commands are off.
   Stage()->RenderView();
   EXPECT_EQ(Stage()->View().Image().ColourAt(0, 0), 0u);
-  EXPECT_FALSE(Stage()->HasHandler(eStageAction::Database));
+  EXPECT_FALSE(Stage()->HasHandler(eMenuAction::Database));
 }
 
 TEST_F(EditorWindow, CloseBoxAsksAboutChangesAndCancelKeepsTheWindow) {
@@ -127,6 +146,64 @@ TEST_F(EditorWindow, SaveWritesTheChangedStageInPlace) {
   cStage reread;
   ASSERT_TRUE(reread.LoadFile(kStage1));
   EXPECT_EQ(reread.m_strName, "renamed");
+}
+
+TEST_F(EditorWindow, PenRectangleRangeUndoRedoAndSaveReachTheFile) {
+  cStageEdit& edit = StageEdit();
+  Stage()->ScrollTo(0, 0);
+  cEdBlock brush = CommonPalette().m_vecBlockPlt.at(1);
+  ASSERT_NE(brush.m_nGraphicNo, 0);
+  edit.m_vecBrushBlock.assign(1, brush);
+  const int graphic = brush.m_nGraphicNo;
+  ASSERT_EQ(BlockAt(EditStage(), 2, 1), 0);
+
+  Drag(Qt::LeftButton, {2, 1}, {4, 1});  // pen
+  EXPECT_EQ(BlockAt(EditStage(), 2, 1), graphic);
+  EXPECT_EQ(BlockAt(EditStage(), 3, 1), graphic);
+  EXPECT_EQ(BlockAt(EditStage(), 4, 1), graphic);
+  EXPECT_TRUE(edit.m_bStageChanged);
+
+  edit.m_iTool = kToolRect;
+  edit.m_iCursorMode = 2;
+  Drag(Qt::LeftButton, {8, 3}, {6, 2});  // right to left, bottom to top
+  for (int y = 2; y <= 3; ++y) {
+    for (int x = 6; x <= 8; ++x) EXPECT_EQ(BlockAt(EditStage(), x, y), graphic) << x << "," << y;
+  }
+  EXPECT_EQ(BlockAt(EditStage(), 5, 2), 0);
+
+  Drag(Qt::RightButton, {3, 1}, {7, 2});  // the range becomes the brush
+  EXPECT_EQ(edit.m_iBrushW, 5);
+  EXPECT_EQ(edit.m_iBrushH, 2);
+  EXPECT_EQ(edit.m_vecBrushBlock.at(0).m_nGraphicNo, graphic);  // (3,1)
+  EXPECT_EQ(edit.m_vecBrushBlock.at(2).m_nGraphicNo, 0);        // (5,1)
+
+  ASSERT_GE(edit.m_iUndoNum, 1);
+  Command(40052);  // undo: the rectangle goes
+  EXPECT_EQ(BlockAt(EditStage(), 6, 2), 0);
+  EXPECT_EQ(BlockAt(EditStage(), 2, 1), graphic);
+  Command(40053);  // redo
+  EXPECT_EQ(BlockAt(EditStage(), 6, 2), graphic);
+
+  Command(40005);
+  EXPECT_FALSE(edit.m_bStageChanged);
+  cStage reread;
+  ASSERT_TRUE(reread.LoadFile(kStage1));
+  EXPECT_EQ(BlockAt(reread, 3, 1), graphic);
+  EXPECT_EQ(BlockAt(reread, 8, 3), graphic);
+  EXPECT_EQ(BlockAt(reread, 5, 2), 0);
+}
+
+TEST_F(EditorWindow, UndoButtonsFollowTheHistory) {
+  QAction* undo = nullptr;
+  for (QAction* action : Stage()->Window()->findChild<QToolBar*>()->actions()) {
+    if (action->data().toInt() == 40052) undo = action;
+  }
+  ASSERT_NE(undo, nullptr);
+  EXPECT_FALSE(undo->isEnabled());
+  Command(40052);  // nothing to undo: nothing happens
+  EXPECT_FALSE(StageEdit().m_bStageChanged);
+  Drag(Qt::LeftButton, {1, 1}, {1, 1});
+  EXPECT_TRUE(undo->isEnabled());
 }
 
 }  // namespace

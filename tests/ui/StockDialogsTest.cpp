@@ -1,5 +1,6 @@
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <gtest/gtest.h>
 
 #include "SampleDialog.h"
@@ -60,8 +61,10 @@ TEST(StockDialogs, MessageWindowShowsItsTextUntilClosed) {
   EXPECT_EQ(window->windowTitle(), QString::fromUtf8("お待ちください"));
   EXPECT_EQ(window->findChild<QLabel*>()->text(), QString::fromUtf8("変換中..."));
   EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+  const QPointer<QWidget> shown = window;
   CloseMessageWindow();
   EXPECT_TRUE(manager.Windows().empty());
+  EXPECT_TRUE(shown.isNull());  // the window itself is gone, not only forgotten
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 

@@ -4,9 +4,11 @@
 #include <QDir>
 #include <QFontMetrics>
 #include <QScreen>
+#include <QSocketNotifier>
 #include <QTimer>
 
 #include "core/AppControl.h"
+#include "core/DoubleStart.h"
 #include "core/EditConfig.h"
 #include "core/Log.h"
 #include "core/PrjOption.h"
@@ -16,18 +18,24 @@
 #include "core/SheetSize.h"
 #include "core/SystemIni.h"
 #include "core/SystemText.h"
+#include "core/TestPlay.h"
 #include "core/TimedBackup.h"
 #include "objects/GValInfo.h"
 #include "platform/Clock.h"
+#include "platform/InstanceLock.h"
+#include "platform/MessageChannel.h"
 #include "platform/Screen.h"
 #include "platform/SystemInfo.h"
+#include "project/ExitSave.h"
+#include "project/ProjectLoad.h"
 #include "project/SystemIniDefaults.h"
 #include "project/SystemRecord.h"
 #include "sound/MusicPlayer.h"
 #include "sound/WavePlayer.h"
 #include "stage/StageEdit.h"
+#include "stage/StageHistory.h"
+#include "stage/StageHooks.h"
 #include "ui/app/HostWindow.h"
-#include "ui/app/ProjectLoad.h"
 #include "ui/app/SheetMeasure.h"
 #include "ui/framework/DialogManager.h"
 #include "ui/framework/Hook.h"
@@ -80,6 +88,8 @@ cEditorApp::cEditorApp(cPrompt* prompt) : m_pPrompt(prompt) {}
 
 cEditorApp::~cEditorApp() {
   SetIdleWaker(nullptr);
+  StageHooks() = cStageHooks();
+  SetTestPlayHost(nullptr);
   m_pStageWindow.reset();
   delete m_pHost;
   SetAppControl(nullptr);
@@ -116,7 +126,10 @@ bool cEditorApp::Start() {
   return InitApp();
 }
 
-bool cEditorApp::AskDoubleStart() { return true; }
+bool cEditorApp::AskDoubleStart() {
+  m_pLock = std::make_unique<cInstanceLock>(kEditorLockName);
+  return ConfirmDoubleStart(*m_pLock);
+}
 
 bool cEditorApp::InitApp() {
   SetAppVersion();
@@ -127,7 +140,7 @@ bool cEditorApp::InitApp() {
   }
   CreateProjectFolders();
   if (!EditorConfig().LoadFile(PathOf(ePath::EditConfig))) DebugText(SysText("EditConfig.Load 失敗"));
-  if (!LoadProjectFiles()) {
+  if (!LoadProject()) {
     ErrorBoxText(SysText(g_bFileTooNew ? "プロジェクトのロードに失敗しました！"
                                        : "プロジェクトのロードに失敗しました！フォルダやファイルの位置や名称が変更された可能性があります！"));
     EditorConfig().m_strLastStage.clear();
@@ -136,6 +149,8 @@ bool cEditorApp::InitApp() {
     return false;
   }
   OpenLastStage(EditorConfig().m_strLastStage);
+  InstallStageHooks();
+  AllocHistory(EditStage().m_iUndoCount, EditStage().m_nPitch, EditStage().m_nHeight);
   ReadSystemIni();
   if (!StartSound()) return false;
   if (!CreateHostWindow()) {
@@ -143,13 +158,12 @@ bool cEditorApp::InitApp() {
     return false;
   }
   if (!CreateStageWindow()) return false;
+  ListenForGames();
   if (RestoreSheetRate()) RunTimedBackup();
   ReportLine("Sheet Rate = (%lf,%lf)", m_sheetRate.x, m_sheetRate.y);
   m_bStarted = true;
   return true;
 }
-
-bool cEditorApp::LoadProjectFiles() { return LoadProjectForEditor(); }
 
 void cEditorApp::ReadSystemIni() {
   cSystemIniDefaults defaults;
@@ -291,7 +305,12 @@ void cEditorApp::RequestRebuild() {
 void cEditorApp::RebuildStageWindow() {
   m_bRebuildPending = false;
   m_pStageWindow.reset();
+  // Path and stage flag outlive the reset of the tools.
+  const std::string path = StageEdit().m_strPath;
+  const int32_t hasStage = StageEdit().m_bHasStage;
   ResetEditTools(StageEdit());
+  StageEdit().m_strPath = path;
+  StageEdit().m_bHasStage = hasStage;
   if (CreateStageWindow()) m_pStageWindow->Window()->setFocus();
 }
 
@@ -305,14 +324,23 @@ void cEditorApp::OnHostDestroyed() {
 }
 
 void cEditorApp::ExitApp() {
-  if (m_bStarted && !g_bNoSave) {
-    EditorConfig().m_strLastStage = StageEdit().m_strPath;
-    EditorConfig().SaveFile(PathOf(ePath::EditConfig));
-    SaveCommonVars();
-  }
+  m_pStageWindow.reset();  // keeps its place in the settings saved next
+  SaveOnExit(EditorConfig(), m_bStarted);
   MusicPlayer().Shutdown();
   WavePlayer().Close();
   cHook::Uninstall();
+  if (m_pLock) m_pLock->Release();
+}
+
+// The game program tells of its end through a socket that the event loop
+// watches; a second editor of the user finds the name taken and goes
+// without the message.
+void cEditorApp::ListenForGames() {
+  m_pGameMessages = std::make_unique<cMessageReceiver>();
+  if (!m_pGameMessages->Open(EditorChannelName())) return;
+  m_pGameNotifier = new QSocketNotifier(m_pGameMessages->Fd(), QSocketNotifier::Read, m_pHost);
+  QObject::connect(m_pGameNotifier, &QSocketNotifier::activated, m_pHost,
+                   [this] { TakeGameMessages(*m_pGameMessages); });
 }
 
 }  // namespace velmora

@@ -7,6 +7,7 @@
 #include "ui/stage/StageWindow.h"
 
 class QApplication;
+class QSocketNotifier;
 class QTimer;
 class QWidget;
 
@@ -14,7 +15,10 @@ namespace velmora {
 
 class cDialogManager;
 class cHostWindow;
+class cInstanceLock;
+class cMessageReceiver;
 class cPrompt;
+class cTestPlayHost;
 class cQtPrompt;
 
 // The application object: start-up in its fixed order, the main loop and
@@ -50,11 +54,13 @@ class cEditorApp : public cStageWindowHost {
   void SetActive(bool active);
   void RestoreWindows();
   void RebuildStageWindow();
+  void ClearActiveFlag() { m_bActive = false; }
   void OnHostDestroyed();
 
  private:
   bool AskDoubleStart();
-  bool LoadProjectFiles();
+  void InstallStageHooks();
+  void ListenForGames();
   void OpenLastEditedStage();
   void ReadSystemIni();
   bool StartSound();
@@ -68,6 +74,10 @@ class cEditorApp : public cStageWindowHost {
   std::unique_ptr<cDialogManager> m_pManager;
   std::unique_ptr<cQtPrompt> m_pQtPrompt;
   cPrompt* m_pPrompt;
+  std::unique_ptr<cInstanceLock> m_pLock;
+  std::unique_ptr<cTestPlayHost> m_pTestPlayHost;
+  std::unique_ptr<cMessageReceiver> m_pGameMessages;
+  QSocketNotifier* m_pGameNotifier = nullptr;
   cHostWindow* m_pHost = nullptr;
   std::unique_ptr<cStageWindow> m_pStageWindow;
   QTimer* m_pIdleTimer = nullptr;

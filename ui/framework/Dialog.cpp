@@ -39,9 +39,11 @@ cDialog::cDialog(cDialogManager& manager, QWidget* parent) : m_manager(manager),
 cDialog::~cDialog() {
   DestroyControls();
   if (m_pWindow) {
-    m_pWindow->Detach();
+    // Forgetting the window clears the pointer; the window itself goes too.
+    cDialogWindow* window = m_pWindow.data();
+    window->Detach();
     OnWindowDestroyed();
-    delete m_pWindow.data();
+    delete window;
   }
 }
 

@@ -3,7 +3,7 @@
 namespace velmora {
 namespace {
 
-using A = eStageAction;
+using A = eMenuAction;
 
 // Every command of the stage window. Entries whose windows come later stay
 // in the table; the window enables only what it has a handler for.
@@ -107,7 +107,7 @@ const cStageCommand* FindStageCommand(int id) {
   return nullptr;
 }
 
-const cStageCommand& StageCommandOf(eStageAction action) {
+const cStageCommand& StageCommandOf(eMenuAction action) {
   for (const cStageCommand& command : kCommands) {
     if (command.action == action) return command;
   }

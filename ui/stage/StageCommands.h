@@ -9,7 +9,7 @@ namespace velmora {
 
 // What a command of the stage window does; several ids may ask for the same
 // action (a menu entry and its tool bar button).
-enum class eStageAction {
+enum class eMenuAction {
   New, Open, Close, Save, SaveAs, SaveCommon,
   Undo, Redo,
   LayerBlock, LayerChara, LayerItem,
@@ -21,7 +21,7 @@ enum class eStageAction {
 };
 
 struct cStageCommand {
-  eStageAction action;
+  eMenuAction action;
   std::array<int, 4> ids;  // the first is the menu's; unused slots 0
   const char* menuText;    // UTF-8; null for a command without a menu entry
   bool needsStage;         // does nothing while no stage is open
@@ -32,7 +32,7 @@ struct cStageCommand {
 const std::vector<cStageCommand>& StageCommands();
 // The row of a command id, or null.
 const cStageCommand* FindStageCommand(int id);
-const cStageCommand& StageCommandOf(eStageAction action);
+const cStageCommand& StageCommandOf(eMenuAction action);
 
 // Menu 128 and the tool bar, built from the rows above.
 std::vector<cMenuPopup> StageMenu();

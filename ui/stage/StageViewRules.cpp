@@ -1,6 +1,7 @@
 #include "ui/stage/StageViewRules.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "core/SystemText.h"
 
@@ -49,6 +50,35 @@ cCellPos InitialScroll(const cStage& stage) {
 cBarRange HorzBarRange(int stageWidth, int clientWidth) { return {stageWidth - 1, clientWidth / kCellDots}; }
 
 cBarRange VertBarRange(int stageHeight, int clientHeight) { return {stageHeight - 1, clientHeight / kCellDots}; }
+
+namespace {
+
+constexpr cColourRef kCursorColour = 0xFF0080;
+constexpr cColourRef kRangeColour = 0x8000FF;
+constexpr int kModePen = 0;
+constexpr int kModeRect = 2;
+constexpr int kModeRange = 5;
+
+cCellFrame Spanning(int fromX, int fromY, cCellPos to, cColourRef colour) {
+  return {std::min(fromX, to.x), std::min(fromY, to.y), std::abs(to.x - fromX) + 1, std::abs(to.y - fromY) + 1,
+          colour};
+}
+
+}  // namespace
+
+cCellFrame CursorFrame(const cStageEdit& edit, cCellPos cursor) {
+  switch (edit.m_iCursorMode) {
+    case kModePen: return {cursor.x, cursor.y, edit.m_iBrushW, edit.m_iBrushH, kCursorColour};
+    case kModeRect:
+      if (edit.m_bDrag) return Spanning(edit.m_iRectX, edit.m_iRectY, cursor, kCursorColour);
+      break;
+    case kModeRange:
+      if (edit.m_bDrag) return Spanning(edit.m_iRangeX, edit.m_iRangeY, cursor, kRangeColour);
+      return {cursor.x, cursor.y, 0, 0, kRangeColour};
+    default: break;
+  }
+  return {cursor.x, cursor.y, 1, 1, kCursorColour};
+}
 
 std::string StageWindowTitle(const std::string& path) {
   std::string title = SysText(kProgramTitle);

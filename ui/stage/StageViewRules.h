@@ -3,6 +3,8 @@
 #include <string>
 
 #include "stage/Stage.h"
+#include "stage/StageEdit.h"
+#include "ui/stageview/StageView.h"
 
 namespace velmora {
 
@@ -42,6 +44,10 @@ struct cBarRange {
 };
 cBarRange HorzBarRange(int stageWidth, int clientWidth);
 cBarRange VertBarRange(int stageHeight, int clientHeight);
+
+// The frame that marks the cursor, by the cursor mode: the brush for the
+// pen, the rectangle or the range while one is dragged, else one cell.
+cCellFrame CursorFrame(const cStageEdit& edit, cCellPos cursor);
 
 // The program's name as its windows show it; UTF-8.
 inline constexpr const char* kProgramTitle = "ヴェルモラ";

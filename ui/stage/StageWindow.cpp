@@ -13,7 +13,11 @@
 #include "core/SaveData.h"
 #include "core/SystemText.h"
 #include "platform/HostPath.h"
+#include "core/TestPlay.h"
+#include "stage/StageBrush.h"
+#include "stage/StageCommands.h"
 #include "stage/StageEdit.h"
+#include "stage/StageHistory.h"
 #include "ui/controls/ScrollBar.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/DialogWindow.h"
@@ -157,7 +161,7 @@ void cStageWindow::UpdateScrollRanges() {
 
 // ---- commands ----
 
-void cStageWindow::SetHandler(eStageAction action, cHandler handler) {
+void cStageWindow::SetHandler(eMenuAction action, cHandler handler) {
   if (handler) m_handlers[action] = std::move(handler);
   else m_handlers.erase(action);
   UpdateStates();
@@ -173,9 +177,9 @@ void cStageWindow::UpdateStates() {
   const cStageEdit& edit = StageEdit();
   for (const cStageCommand& command : StageCommands()) {
     bool enabled = IsEnabled(command);
-    if (command.action == eStageAction::Undo) enabled = enabled && edit.m_iUndoNum >= 1;
-    if (command.action == eStageAction::Redo) enabled = enabled && edit.m_iRedoNum >= 1;
-    const int layer = static_cast<int>(command.action) - static_cast<int>(eStageAction::LayerBlock);
+    if (command.action == eMenuAction::Undo) enabled = enabled && edit.m_iUndoNum >= 1;
+    if (command.action == eMenuAction::Redo) enabled = enabled && edit.m_iRedoNum >= 1;
+    const int layer = static_cast<int>(command.action) - static_cast<int>(eMenuAction::LayerBlock);
     const bool checked = layer >= 0 && layer < 3 && edit.m_iLayer == layer;
     for (int id : command.ids) {
       if (id == 0) continue;
@@ -200,21 +204,37 @@ void cStageWindow::OnCommand(uint32_t wParam, intptr_t /*lParam*/) {
   handler();
 }
 
+// A different stage came in: a history of its size, then a new window.
 void cStageWindow::AfterStageChange() {
+  const cStage& stage = EditStage();
+  AllocHistory(stage.m_iUndoCount, stage.m_nPitch, stage.m_nHeight);
   UpdateStates();
   m_host.RequestRebuild();
 }
 
 void cStageWindow::SetLayer(int layer) {
-  StageEdit().m_iLayer = layer;
+  SwitchLayer(layer);
   StageEdit().m_iReturnLayer = layer;
+}
+
+void cStageWindow::LayerShown(int /*layer*/) {
   UpdateStates();
-  if (onLayerChanged) onLayerChanged(layer);
+  if (onLayerChanged) onLayerChanged(StageEdit().m_iLayer);
   Repaint();
 }
 
+void cStageWindow::AfterEdit() {
+  StageEdit().m_bStageChanged = 1;
+  UpdateStates();
+  Repaint();
+}
+
+void cStageWindow::Clear(eClearLayers which) {
+  if (ClearLayersCommand(which)) AfterEdit();
+}
+
 void cStageWindow::InstallBuiltInHandlers() {
-  using A = eStageAction;
+  using A = eMenuAction;
   m_handlers[A::New] = [this] {
     cNewStageDialog dialog(Manager(), Window());
     if (dialog.DoModal(kDisableOthers) == 1) AfterStageChange();
@@ -243,6 +263,22 @@ void cStageWindow::InstallBuiltInHandlers() {
     AfterStageChange();
   };
   m_handlers[A::SaveStagePalette] = [] { SaveStagePalette(); };
+  m_handlers[A::Undo] = [this] {
+    if (!CanUndo()) return;
+    Undo();
+    AfterEdit();
+  };
+  m_handlers[A::Redo] = [this] {
+    if (!CanRedo()) return;
+    Redo();
+    AfterEdit();
+  };
+  m_handlers[A::ClearAll] = [this] { Clear(eClearLayers::All); };
+  m_handlers[A::ClearBlocks] = [this] { Clear(eClearLayers::Blocks); };
+  m_handlers[A::ClearCharas] = [this] { Clear(eClearLayers::Characters); };
+  m_handlers[A::ClearItems] = [this] { Clear(eClearLayers::Items); };
+  m_handlers[A::TestPlay] = [] { TestPlay(0); };
+  m_handlers[A::TestPlayAll] = [] { TestPlay(1); };
   m_handlers[A::LayerBlock] = [this] { SetLayer(0); };
   m_handlers[A::LayerChara] = [this] { SetLayer(1); };
   m_handlers[A::LayerItem] = [this] { SetLayer(2); };

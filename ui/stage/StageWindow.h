@@ -3,6 +3,8 @@
 #include <map>
 
 #include "stage/Stage.h"
+#include "stage/StageCommands.h"
+#include "stage/StageTools.h"
 #include "ui/framework/Dialog.h"
 #include "ui/stage/StageCommands.h"
 #include "ui/stage/StageViewRules.h"
@@ -21,17 +23,6 @@ class cStageWindowHost {
   virtual void CloseEditor() = 0;
 };
 
-// A mouse event of the stage view as the editing tools take it.
-struct cStageMouse {
-  enum eKind { Down, Move, Up, DoubleClick };
-  eKind kind = Move;
-  bool right = false;  // the button of a down, up or double click
-  bool leftHeld = false;
-  bool rightHeld = false;
-  bool shift = false;
-  cCellPos cell;
-};
-
 // The editor's central window: the edit stage through a 32-dot grid, with
 // the menu, tool bar and status bar from which every other window opens.
 // It is thrown away and built anew whenever a different stage comes in.
@@ -47,12 +38,14 @@ class cStageWindow : public cDialog {
 
   // Windows of later work hook in here: an action with a handler is
   // enabled by the state rules, one without stays disabled.
-  void SetHandler(eStageAction action, cHandler handler);
-  bool HasHandler(eStageAction action) const { return m_handlers.count(action) != 0; }
+  void SetHandler(eMenuAction action, cHandler handler);
+  bool HasHandler(eMenuAction action) const { return m_handlers.count(action) != 0; }
   // Runs after each change of the current layer, for the palette windows.
   std::function<void(int layer)> onLayerChanged;
 
   void UpdateStates();
+  // The stage logic changed the current layer.
+  void LayerShown(int layer);
   void RefreshTitle();
   void Repaint();
   int ScrollX() const;
@@ -88,17 +81,19 @@ class cStageWindow : public cDialog {
   void StorePlace();
   void UpdateScrollRanges();
   cViewFrame Frame() const;
-  void Mouse(cStageMouse::eKind kind, bool right);
-  void FeedTools(const cStageMouse& event);
+  void Mouse(eStageAction action, bool right);
+  void FeedTools(eStageAction action, bool right);
   bool OnKey(int key, bool ctrl);
   void OnWheel(int delta, bool ctrl);
   void OnCloseBox();
   void AfterStageChange();
   void SetLayer(int layer);
+  void AfterEdit();
+  void Clear(eClearLayers which);
   bool IsEnabled(const cStageCommand& command) const;
 
   cStageWindowHost& m_host;
-  std::map<eStageAction, cHandler> m_handlers;
+  std::map<eMenuAction, cHandler> m_handlers;
   cSurface m_view;
   cCellPos m_cursor{0, 0};
   bool m_bOutsideDrag = false;

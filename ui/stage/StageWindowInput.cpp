@@ -2,6 +2,7 @@
 #include <QWheelEvent>
 
 #include "stage/StageEdit.h"
+#include "stage/StageRange.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/DialogWindow.h"
 #include "ui/framework/Hook.h"
@@ -18,28 +19,27 @@ bool ShiftHeld() { return QGuiApplication::keyboardModifiers() & Qt::ShiftModifi
 
 }  // namespace
 
-void cStageWindow::OnMouseMove() { Mouse(cStageMouse::Move, false); }
-void cStageWindow::OnLButtonDown() { Mouse(cStageMouse::Down, false); }
-void cStageWindow::OnRButtonDown() { Mouse(cStageMouse::Down, true); }
-void cStageWindow::OnLButtonUp() { Mouse(cStageMouse::Up, false); }
-void cStageWindow::OnRButtonUp() { Mouse(cStageMouse::Up, true); }
-void cStageWindow::OnLButtonDblClk() { Mouse(cStageMouse::DoubleClick, false); }
-void cStageWindow::OnRButtonDblClk() { Mouse(cStageMouse::DoubleClick, true); }
+void cStageWindow::OnMouseMove() { Mouse(eStageAction::Move, false); }
+void cStageWindow::OnLButtonDown() { Mouse(eStageAction::Down, false); }
+void cStageWindow::OnRButtonDown() { Mouse(eStageAction::Down, true); }
+void cStageWindow::OnLButtonUp() { Mouse(eStageAction::Up, false); }
+void cStageWindow::OnRButtonUp() { Mouse(eStageAction::Up, true); }
+void cStageWindow::OnLButtonDblClk() { Mouse(eStageAction::DoubleClick, false); }
+void cStageWindow::OnRButtonDblClk() { Mouse(eStageAction::DoubleClick, true); }
 
-void cStageWindow::Mouse(cStageMouse::eKind kind, bool right) {
+void cStageWindow::Mouse(eStageAction action, bool right) {
   if (!StageEdit().m_bHasStage) return;
   const cMouseState& mouse = cDialog::Mouse();
   m_cursor = CellAt(Frame(), mouse.x, mouse.y, m_cursor);
-  if (kind == cStageMouse::Down && !right) StageEdit().m_bStageChanged = 1;
-  FeedTools({kind, right, mouse.leftHeld, mouse.rightHeld, ShiftHeld(), m_cursor});
-  if (kind == cStageMouse::Down && Item(kIdPlaceholder)) {
+  FeedTools(action, right);
+  if (action == eStageAction::Down && Item(kIdPlaceholder)) {
     Window()->activateWindow();
     Item(kIdPlaceholder)->setFocus();
   }
   const cGeometry& geometry = Geometry();
   const bool outside = mouse.x < 0 || mouse.y < 0 || mouse.x >= geometry.clientWidth || mouse.y >= geometry.clientHeight;
   const bool held = mouse.leftHeld || mouse.rightHeld;
-  if (outside && held && kind == cStageMouse::Move) EdgeScroll();
+  if (outside && held && action == eStageAction::Move) EdgeScroll();
   const bool wasOutside = m_bOutsideDrag;
   m_bOutsideDrag = outside && held && StageEdit().m_bDrag;
   if (m_bOutsideDrag && !wasOutside) WakeIdle();
@@ -58,9 +58,9 @@ void cStageWindow::Idle() {
   m_cursor = CellAt(Frame(), mouse.x, mouse.y, m_cursor);
   if (!mouse.leftHeld && !mouse.rightHeld) {
     m_bOutsideDrag = false;
-    FeedTools({cStageMouse::Up, !leftBefore, false, false, ShiftHeld(), m_cursor});
+    FeedTools(eStageAction::Up, !leftBefore);
   } else {
-    FeedTools({cStageMouse::Move, false, mouse.leftHeld, mouse.rightHeld, ShiftHeld(), m_cursor});
+    FeedTools(eStageAction::Move, !mouse.leftHeld);
     EdgeScroll();
     m_bOutsideDrag = StageEdit().m_bDrag != 0;
   }
@@ -97,11 +97,10 @@ void cStageWindow::OnWheel(int delta, bool ctrl) {
 // window holds; sending them here as well would start a second play.
 bool cStageWindow::OnKey(int key, bool ctrl) {
   if (ctrl || !StageEdit().m_bHasStage) return false;
-  if (key == Qt::Key_Space) {
-    SetLayer((StageEdit().m_iLayer + 1) % 3);
-    return true;
-  }
-  return false;
+  if (!StageKey(key, ShiftHeld(), m_cursor.x, m_cursor.y)) return false;
+  UpdateStates();
+  Repaint();
+  return true;
 }
 
 void cStageWindow::OnSize() {
@@ -110,6 +109,20 @@ void cStageWindow::OnSize() {
   Repaint();
 }
 
-void cStageWindow::FeedTools(const cStageMouse& /*event*/) {}
+// A move names the button that is held; the left one wins.
+void cStageWindow::FeedTools(eStageAction action, bool right) {
+  cStageInput input;
+  input.x = m_cursor.x;
+  input.y = m_cursor.y;
+  input.button = right ? eStageButton::Right : eStageButton::Left;
+  input.action = action;
+  input.shift = ShiftHeld();
+  if (action == eStageAction::Move) {
+    const cMouseState& mouse = cDialog::Mouse();
+    if (!mouse.leftHeld && !mouse.rightHeld) return;
+    input.button = mouse.leftHeld ? eStageButton::Left : eStageButton::Right;
+  }
+  StageMouse(input);
+}
 
 }  // namespace velmora

@@ -6,26 +6,22 @@
 #include "stage/StageEdit.h"
 #include "ui/framework/DialogWindow.h"
 #include "ui/stage/StageWindow.h"
+#include "ui/stageview/StageView.h"
 
 // Painting: the view is drawn from the records into an off-screen surface
 // of the client's size, which then goes to the window in one copy.
 
 namespace velmora {
-namespace {
-
-constexpr cColourRef kBlack = 0x000000;
-constexpr cColourRef kGridColour = 0xFFFFFF;
-
-}  // namespace
 
 void cStageWindow::RenderView() {
   const cGeometry& geometry = Geometry();
   const int width = std::max(geometry.clientWidth, 1);
   const int height = std::max(geometry.clientHeight, 1);
   if (m_view.Width() != width || m_view.Height() != height) m_view.CreateSurface(width, height, 32, false);
-  m_view.Fill(kBlack);
-  if (!StageEdit().m_bHasStage) return;
-  m_view.Grid(0, 0, width, height, kCellDots, kCellDots, kGridColour);
+  cViewOptions options;
+  options.hasStage = StageEdit().m_bHasStage != 0;
+  options.cursor = CursorFrame(StageEdit(), m_cursor);
+  RenderStageView(EditStage(), m_view, ScrollX(), ScrollY(), options);
 }
 
 void cStageWindow::OnPaint(QPainter& painter) {

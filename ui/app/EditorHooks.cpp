@@ -1,0 +1,62 @@
+#include <QApplication>
+
+#include "core/EditConfig.h"
+#include "core/ProjectPaths.h"
+#include "core/TestPlay.h"
+#include "stage/StageHistory.h"
+#include "stage/StageHooks.h"
+#include "ui/app/EditorApp.h"
+#include "ui/app/HostWindow.h"
+
+// What the stage logic and the test play ask of the windows, answered by
+// the application and its stage window.
+
+namespace velmora {
+namespace {
+
+void AllocEditHistory() {
+  const cStage& stage = EditStage();
+  AllocHistory(stage.m_iUndoCount, stage.m_nPitch, stage.m_nHeight);
+}
+
+class cEditorTestPlayHost : public cTestPlayHost {
+ public:
+  explicit cEditorTestPlayHost(cEditorApp& app) : m_app(app) {}
+  void ClearHistory() override { velmora::ClearHistory(); }
+  void AllocHistory() override {
+    AllocEditHistory();
+    if (m_app.StageWindow()) m_app.StageWindow()->UpdateStates();
+  }
+  void RedrawStageWindow() override {
+    if (m_app.StageWindow()) m_app.StageWindow()->Repaint();
+  }
+  void ActivateStageWindow() override {
+    if (m_app.StageWindow() && m_app.StageWindow()->Window()) m_app.StageWindow()->Window()->activateWindow();
+  }
+  void ClearActiveFlag() override { m_app.ClearActiveFlag(); }
+
+ private:
+  cEditorApp& m_app;
+};
+
+}  // namespace
+
+void cEditorApp::InstallStageHooks() {
+  cStageHooks& hooks = StageHooks();
+  hooks.refreshUndoButtons = [this] {
+    if (m_pStageWindow) m_pStageWindow->UpdateStates();
+  };
+  hooks.busyCursor = [](bool busy) {
+    if (busy) QApplication::setOverrideCursor(Qt::WaitCursor);
+    else QApplication::restoreOverrideCursor();
+  };
+  hooks.layerShown = [this](int layer) {
+    if (m_pStageWindow) m_pStageWindow->LayerShown(layer);
+  };
+  hooks.saveEditorSettings = [] { EditorConfig().SaveFile(PathOf(ePath::EditConfig)); };
+  hooks.destroyMainWindow = [this] { CloseEditor(); };
+  m_pTestPlayHost = std::make_unique<cEditorTestPlayHost>(*this);
+  SetTestPlayHost(m_pTestPlayHost.get());
+}
+
+}  // namespace velmora

@@ -63,6 +63,28 @@ TEST(StageViewRules, FirstViewCentresThePlayerWithinTheStage) {
   EXPECT_EQ(InitialScroll(stage).y, 35);
 }
 
+TEST(StageViewRules, CursorFrameFollowsTheModeAndTheDrag) {
+  cStageEdit edit;
+  edit.m_iBrushW = 3;
+  edit.m_iBrushH = 2;
+  const cCellFrame pen = CursorFrame(edit, {5, 6});
+  EXPECT_EQ(pen.w * 10 + pen.h, 32);
+  edit.m_iCursorMode = 2;
+  edit.m_bDrag = 1;
+  edit.m_iRectX = 9;
+  edit.m_iRectY = 2;
+  const cCellFrame rect = CursorFrame(edit, {5, 6});
+  EXPECT_EQ(rect.x, 5);
+  EXPECT_EQ(rect.y, 2);
+  EXPECT_EQ(rect.w, 5);
+  EXPECT_EQ(rect.h, 5);
+  edit.m_iCursorMode = 5;
+  edit.m_bDrag = 0;
+  EXPECT_EQ(CursorFrame(edit, {5, 6}).w, 0);  // no range, no frame
+  edit.m_iCursorMode = 3;
+  EXPECT_EQ(CursorFrame(edit, {5, 6}).w, 1);
+}
+
 TEST(StageViewRules, TitleNamesTheStageFileBehindTwoBlanks) {
   EXPECT_EQ(StageWindowTitle("data\\stg4\\a.stg4_950"), StageWindowTitle("") + "  data\\stg4\\a.stg4_950");
 }

@@ -9,6 +9,7 @@
 
 #include "support/ScriptedPrompt.h"
 #include "support/TempProject.h"
+#include "core/DoubleStart.h"
 #include "core/SaveData.h"
 #include "objects/Palette.h"
 #include "core/SystemText.h"
@@ -25,6 +26,17 @@ namespace {
 
 constexpr char kStage1[] = "data\\stg4\\Stage1.stg4_950";
 
+// The editor's lock as another editor would hold it. Tests that run beside
+// this one in other processes take turns on it.
+std::unique_ptr<cInstanceLock> HoldEditorLock() {
+  for (int attempt = 0; attempt < 1000; ++attempt) {
+    auto lock = std::make_unique<cInstanceLock>(kEditorLockName);
+    if (!lock->HeldElsewhere()) return lock;
+    QTest::qWait(20);
+  }
+  return nullptr;
+}
+
 // The editor started in a fresh copy of the sample project, driven the way
 // the author drives it.
 class EditorWindow : public ::testing::Test {
@@ -32,9 +44,20 @@ class EditorWindow : public ::testing::Test {
   void SetUp() override {
     std::string error;
     ASSERT_TRUE(sample::MakeSampleProject(project.Path(), false, error)) << error;
+    otherEditor = HoldEditorLock();
+    ASSERT_NE(otherEditor, nullptr);
+    StartEditor();
+    ASSERT_NE(Stage(), nullptr);
+  }
+  // The test holds the editor's lock itself, so every start meets the
+  // double-start question, whatever else runs beside it, and goes on.
+  void StartEditor() {
+    app.reset();
+    prompt.QueueAnswer(eAnswer::Yes);
     app = std::make_unique<cEditorApp>(&prompt);
     ASSERT_TRUE(app->Start());
-    ASSERT_NE(Stage(), nullptr);
+    ASSERT_FALSE(prompt.Shown().empty());
+    EXPECT_EQ(prompt.Shown().front().caption, "二重起動");
   }
   void TearDown() override {
     app.reset();
@@ -80,6 +103,7 @@ class EditorWindow : public ::testing::Test {
   }
 
   cTempProject project;
+  std::unique_ptr<cInstanceLock> otherEditor;
   cScriptedPrompt prompt;
   std::unique_ptr<cEditorApp> app;
 };
@@ -91,14 +115,30 @@ TEST_F(EditorWindow, StartsOnTheStageEditedLastWithItsNameInTheTitle) {
   EXPECT_TRUE(FileExists("e_data\\SheetSize.dat"));
   EXPECT_NE(ReadText("Report_Editor.txt").find("App : ver 950"), std::string::npos);
   EXPECT_NE(ReadText("Report_Editor.txt").find("Sheet Rate = ("), std::string::npos);
-  EXPECT_TRUE(prompt.Shown().empty());
+  EXPECT_EQ(prompt.Shown().size(), 1u);  // nothing but the double start
+}
+
+TEST(EditorStart, DecliningASecondEditorLeavesOnlyTheReportLog) {
+  cTempProject project;
+  std::string error;
+  ASSERT_TRUE(sample::MakeSampleProject(project.Path(), false, error)) << error;
+  const std::unique_ptr<cInstanceLock> otherEditor = HoldEditorLock();
+  ASSERT_NE(otherEditor, nullptr);
+  cScriptedPrompt prompt;
+  prompt.QueueAnswer(eAnswer::No);
+  {
+    cEditorApp app(&prompt);
+    EXPECT_FALSE(app.Start());
+    app.ExitApp();
+  }
+  EXPECT_TRUE(FileExists("Report_Editor.txt"));
+  EXPECT_FALSE(FileExists("e_data\\SheetSize.dat"));
+  EXPECT_FALSE(FileExists("data_backup"));
 }
 
 TEST_F(EditorWindow, SecondStartTakesTheStoredSheetRate) {
   const cSheetRate first = app->SheetRate();
-  app.reset();
-  app = std::make_unique<cEditorApp>(&prompt);
-  ASSERT_TRUE(app->Start());
+  StartEditor();
   EXPECT_DOUBLE_EQ(app->SheetRate().x, first.x);
   EXPECT_NE(ReadText("Report_Editor.txt").find("Sheet Rate : OK"), std::string::npos);
 }

@@ -199,6 +199,11 @@ void AllocHistory(int levels, int pitch, int height) {
   }
 }
 
+void RebuildHistory() {
+  const cStage& stage = EditStage();
+  AllocHistory(stage.m_iUndoCount, stage.m_nPitch, stage.m_nHeight);
+}
+
 void RecordStep(uint32_t mask) {
   PushStep(mask, UndoStack());
   StageEdit().m_iRedoNum = 0;

@@ -33,7 +33,6 @@
 #include "sound/MusicPlayer.h"
 #include "sound/WavePlayer.h"
 #include "stage/StageEdit.h"
-#include "stage/StageHistory.h"
 #include "stage/StageHooks.h"
 #include "ui/app/HostWindow.h"
 #include "ui/app/SheetMeasure.h"
@@ -150,7 +149,6 @@ bool cEditorApp::InitApp() {
   }
   OpenLastStage(EditorConfig().m_strLastStage);
   InstallStageHooks();
-  AllocHistory(EditStage().m_iUndoCount, EditStage().m_nPitch, EditStage().m_nHeight);
   ReadSystemIni();
   if (!StartSound()) return false;
   if (!CreateHostWindow()) {

@@ -3,7 +3,6 @@
 #include "core/EditConfig.h"
 #include "core/ProjectPaths.h"
 #include "core/TestPlay.h"
-#include "stage/StageHistory.h"
 #include "stage/StageHooks.h"
 #include "ui/app/EditorApp.h"
 #include "ui/app/HostWindow.h"
@@ -14,17 +13,11 @@
 namespace velmora {
 namespace {
 
-void AllocEditHistory() {
-  const cStage& stage = EditStage();
-  AllocHistory(stage.m_iUndoCount, stage.m_nPitch, stage.m_nHeight);
-}
-
 class cEditorTestPlayHost : public cTestPlayHost {
  public:
   explicit cEditorTestPlayHost(cEditorApp& app) : m_app(app) {}
-  void ClearHistory() override { velmora::ClearHistory(); }
   void AllocHistory() override {
-    AllocEditHistory();
+    cTestPlayHost::AllocHistory();
     if (m_app.StageWindow()) m_app.StageWindow()->UpdateStates();
   }
   void RedrawStageWindow() override {

@@ -204,10 +204,9 @@ void cStageWindow::OnCommand(uint32_t wParam, intptr_t /*lParam*/) {
   handler();
 }
 
-// A different stage came in: a history of its size, then a new window.
+// A different stage came in (the stage logic built its history): a new
+// window for it.
 void cStageWindow::AfterStageChange() {
-  const cStage& stage = EditStage();
-  AllocHistory(stage.m_iUndoCount, stage.m_nPitch, stage.m_nHeight);
   UpdateStates();
   m_host.RequestRebuild();
 }

@@ -38,6 +38,13 @@ class cListView {
 
   const std::vector<cMenuItem>& PopupMenu() const { return m_menu; }
 
+  static int ExecMenu(const std::vector<cMenuItem>& menu, const QPoint& screen) {
+    QMenu popup;
+    for (const cMenuItem& item : menu) popup.addAction(QString::fromUtf8(item.text))->setData(item.command);
+    const QAction* chosen = popup.exec(screen);
+    return chosen ? chosen->data().toInt() : 0;
+  }
+
   // Rebuilds every row with redraw off, so the view neither flickers nor jumps.
   void Show() {
     const QSignalBlocker block(m_pWidget);
@@ -93,13 +100,6 @@ class cListView {
   }
 
  private:
-  static int ExecMenu(const std::vector<cMenuItem>& menu, const QPoint& screen) {
-    QMenu popup;
-    for (const cMenuItem& item : menu) popup.addAction(QString::fromUtf8(item.text))->setData(item.command);
-    const QAction* chosen = popup.exec(screen);
-    return chosen ? chosen->data().toInt() : 0;
-  }
-
   int TopRow() const {
     const int top = m_pWidget->indexAt(QPoint(0, 0)).row();
     return top < 0 ? 0 : top;

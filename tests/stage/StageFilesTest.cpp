@@ -26,8 +26,7 @@ const char* kBackupHost = "data/work/a.stg4_950";
 class cStageFilesTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    testing::MakeDirs("data/stg4/old_ver");
-    testing::MakeDirs("data/work");
+    testing::MakeStageFolders();
     StageEdit() = cStageEdit();
     EditStage().InitDefault();
     cEdChara& player = EditStage().m_vecCharaCell[0];

@@ -29,8 +29,7 @@ const char* kBackupHost = "data/work/big.stg4_950";
 class cStageSaveSafetyTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    testing::MakeDirs("data/stg4/old_ver");
-    testing::MakeDirs("data/work");
+    testing::MakeStageFolders();
     StageEdit() = cStageEdit();
     cStage& stage = EditStage();
     stage.InitDefault();

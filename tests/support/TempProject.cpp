@@ -44,6 +44,11 @@ std::string ReadText(const std::string& hostPath) {
 
 void MakeDirs(const std::string& hostPath) { std::filesystem::create_directories(hostPath); }
 
+void MakeStageFolders() {
+  MakeDirs("data/stg4/old_ver");
+  MakeDirs("data/work");
+}
+
 cBytes& cBytes::Str(const std::string& text) {
   I32(static_cast<int32_t>(text.size()) + 1);
   if (!text.empty()) Raw(text.c_str(), text.size() + 1);

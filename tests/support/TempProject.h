@@ -27,6 +27,9 @@ void WriteBytes(const std::string& hostPath, const std::vector<uint8_t>& bytes);
 void WriteText(const std::string& hostPath, const std::string& text);
 std::string ReadText(const std::string& hostPath);
 void MakeDirs(const std::string& hostPath);
+// The stage folder with its old-version folder, and the work folder that
+// holds a stage while it is saved.
+void MakeStageFolders();
 
 // Builds record-stream bytes by hand, so tests state a file exactly.
 class cBytes {

@@ -110,8 +110,12 @@ class cListEdit {
   // The right click selects the row under the point; a row already flagged
   // keeps the rest of a multi-selection. False when the point is off the rows.
   bool ClickRow(int y) {
-    const int row = m_nTop + (y - 2) / 12;
-    if (y < 2 || row < 0 || row >= RowCount()) return false;
+    if (y < 2) return false;
+    return ClickOnRow(m_nTop + (y - 2) / 12);
+  }
+  // The same for a widget that hit-tests its rows itself.
+  bool ClickOnRow(int row) {
+    if (row < 0 || row >= RowCount()) return false;
     if (m_bMulti && !IsFlagged(row)) FlagOnly(row);
     Select(row, true);
     return true;

@@ -1,6 +1,9 @@
+#include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <gtest/gtest.h>
 
+#include "SampleDialog.h"
 #include "platform/TextCodec.h"
 #include "project/FileEntryRecords.h"
 #include "ui/list/ListView.h"
@@ -64,6 +67,63 @@ TEST_F(ListView, CommandIdsOfItsListNumberRunAndRefillTheRows) {
   EXPECT_EQ(Row(0), QString::fromUtf8("01 "));
   EXPECT_EQ(widget.currentRow(), 0);
   EXPECT_TRUE(work.m_strName.empty());
+}
+
+TEST_F(ListView, RightClickSelectsTheRowUnderItAndRunsTheChosenMenuCommand) {
+  std::vector<std::string> texts;
+  for (const cMenuItem& item : view.PopupMenu()) texts.push_back(item.text);
+  EXPECT_EQ(texts, (std::vector<std::string>{"切り取り", "コピー", "貼り付け", "新規挿入", "削除"}));
+  EXPECT_EQ(ListPopupMenu(4, 0).back().text, std::string("データのクリア"));
+  EXPECT_EQ(ListPopupMenu(4, 0).back().command, 40118);
+
+  widget.resize(200, 200);
+  widget.setCurrentRow(0);
+  int offered = 0;
+  view.choosePopup = [&](const std::vector<cMenuItem>& menu, const QPoint&) {
+    offered = static_cast<int>(menu.size());
+    return 40107;  // delete
+  };
+  EXPECT_TRUE(view.RightClick(widget.visualItemRect(widget.item(2)).center()));
+  EXPECT_EQ(offered, 5);
+  ASSERT_EQ(widget.count(), 2);
+  EXPECT_EQ(Row(1), QString::fromUtf8("2 扉"));  // the clicked row went, not the selected one
+  EXPECT_EQ(ToUtf8(work.m_strName), "扉");
+
+  offered = 0;
+  EXPECT_FALSE(view.RightClick(QPoint(5, 190)));  // below the rows
+  EXPECT_EQ(offered, 0);
+  EXPECT_EQ(widget.count(), 2);
+}
+
+TEST_F(ListView, CountChangeAsksWithinLimitsAndRefillsTheRows) {
+  cDialogManager manager;
+  QString label;
+  testing::WhenModal([&](QWidget* modal) {
+    label = modal->findChild<QLabel*>()->text();
+    QLineEdit* edit = modal->findChild<QLineEdit*>();
+    EXPECT_EQ(edit->text(), QStringLiteral("3"));
+    testing::TypeText(edit, QStringLiteral("12"));
+    QTest::keyClick(edit, Qt::Key_Return);
+  });
+  widget.setCurrentRow(2);
+  EXPECT_TRUE(view.ChangeCount(manager, 999));
+  EXPECT_EQ(label, QString::fromUtf8("データ数"));
+  EXPECT_EQ(widget.count(), 12);
+  EXPECT_EQ(Row(11), QString::fromUtf8("12 "));
+  EXPECT_EQ(Row(2), QString::fromUtf8("03 爆発"));
+
+  testing::WhenModal([](QWidget* modal) {
+    testing::TypeText(modal->findChild<QLineEdit*>(), QStringLiteral("1"));
+    QTest::keyClick(modal->findChild<QLineEdit*>(), Qt::Key_Return);
+  });
+  EXPECT_TRUE(view.ChangeCount(manager, 999));
+  EXPECT_EQ(widget.count(), 1);
+  EXPECT_EQ(widget.currentRow(), 0);  // the selected row went
+  EXPECT_EQ(ToUtf8(work.m_strName), "剣");
+
+  testing::WhenModal([](QWidget* modal) { QTest::keyClick(modal->findChild<QLineEdit*>(), Qt::Key_Escape); });
+  EXPECT_FALSE(view.ChangeCount(manager, 999));
+  EXPECT_EQ(widget.count(), 1);
 }
 
 }  // namespace

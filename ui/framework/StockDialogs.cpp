@@ -21,10 +21,10 @@ QString Title(const std::string& caption, const char* fallback) {
 class cInputValueDialog : public cDialog {
  public:
   cInputValueDialog(cDialogManager& manager, QWidget* parent, int32_t& value, int minimum, int maximum,
-                    const std::string& caption)
+                    const std::string& caption, const char* label)
       : cDialog(manager, parent) {
     SetTitle(Title(caption, "値の入力"));
-    m_form.rows = {{nullptr, cEditValDesc{kIdInput, &value, double(minimum), double(maximum), kIdInputSpin, 1}}};
+    m_form.rows = {{label, cEditValDesc{kIdInput, &value, double(minimum), double(maximum), kIdInputSpin, 1}}};
   }
 
  protected:
@@ -79,8 +79,8 @@ bool g_waitCursor = false;
 }  // namespace
 
 int InputValue(QWidget* parent, cDialogManager& manager, int32_t& value, int minimum, int maximum,
-               const std::string& caption) {
-  cInputValueDialog dialog(manager, parent, value, minimum, maximum, caption);
+               const std::string& caption, const char* label) {
+  cInputValueDialog dialog(manager, parent, value, minimum, maximum, caption, label);
   return dialog.DoModal(0);
 }
 

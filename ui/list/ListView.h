@@ -1,10 +1,13 @@
 #pragma once
 #include <QListWidget>
+#include <QMenu>
 #include <QSignalBlocker>
 #include <functional>
 
 #include "core/ListEdit.h"
 #include "platform/TextCodec.h"
+#include "ui/framework/StockDialogs.h"
+#include "ui/list/ListMenu.h"
 
 namespace velmora {
 
@@ -19,12 +22,28 @@ class cListView {
       : m_edit(edit),
         m_pWidget(widget),
         m_accelIds(ListAcceleratorIds(listNumber, family)),
-        m_menuIds(ListMenuIds(listNumber, family)) {
+        m_menuIds(ListMenuIds(listNumber, family)),
+        m_menu(ListPopupMenu(listNumber, family)) {
     widget->setSelectionMode(edit.m_bMulti ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
+    widget->setContextMenuPolicy(Qt::CustomContextMenu);
     QObject::connect(widget, &QListWidget::itemSelectionChanged, widget, [this] { OnWidgetSelection(); });
+    QObject::connect(widget, &QWidget::customContextMenuRequested, widget, [this](const QPoint& at) { RightClick(at); });
   }
 
   std::function<void()> onRecordChanged;
+  // Shows the pop-up menu at a screen point and gives the chosen command
+  // id, 0 for none. A page in the dialog framework routes it through its
+  // dialog; standing alone the list opens a menu of its own.
+  std::function<int(const std::vector<cMenuItem>& menu, const QPoint& screen)> choosePopup = ExecMenu;
+
+  const std::vector<cMenuItem>& PopupMenu() const { return m_menu; }
+
+  static int ExecMenu(const std::vector<cMenuItem>& menu, const QPoint& screen) {
+    QMenu popup;
+    for (const cMenuItem& item : menu) popup.addAction(QString::fromUtf8(item.text))->setData(item.command);
+    const QAction* chosen = popup.exec(screen);
+    return chosen ? chosen->data().toInt() : 0;
+  }
 
   // Rebuilds every row with redraw off, so the view neither flickers nor jumps.
   void Show() {
@@ -52,12 +71,24 @@ class cListView {
     return true;
   }
 
-  // The right click: selects the row under y (widget coordinates).
-  bool RightClick(int y) {
+  // The right click: selects the row under the point (widget coordinates)
+  // and runs what its pop-up menu chooses. False off the rows.
+  bool RightClick(const QPoint& at) {
     m_edit.m_nTop = TopRow();
-    if (!m_edit.ClickRow(y)) return false;
+    if (!m_edit.ClickOnRow(m_pWidget->indexAt(at).row())) return false;
     Show();
     m_pWidget->setFocus();
+    if (onRecordChanged) onRecordChanged();
+    if (const int id = choosePopup(m_menu, m_pWidget->viewport()->mapToGlobal(at))) RunCommand(id);
+    return true;
+  }
+
+  // Asks for the new number of entries, from 1 to `maximum`, and sets it.
+  bool ChangeCount(cDialogManager& manager, int maximum) {
+    int32_t count = m_edit.Count();
+    if (!InputValue(m_pWidget->window(), manager, count, 1, maximum, "", "データ数")) return false;
+    if (!m_edit.SetCount(count)) return false;
+    Show();
     if (onRecordChanged) onRecordChanged();
     return true;
   }
@@ -100,6 +131,7 @@ class cListView {
   QListWidget* m_pWidget;
   ListCommandIds m_accelIds;
   ListCommandIds m_menuIds;
+  std::vector<cMenuItem> m_menu;
 };
 
 }  // namespace velmora

@@ -125,18 +125,21 @@ void cPaletteWindow::BuildToolBar() {
 
 int cPaletteWindow::Rows() const { return RowsFor(PaletteCount(Side())); }
 
+int cPaletteWindow::ClientHeight() const {
+  return Window() ? Window()->findChild<cClientArea*>()->height() : 0;
+}
+
 int cPaletteWindow::MaxClientHeight(int windowTop) const {
-  const int above = Geometry().clientY;
-  const int below = Window() ? Window()->height() - above - Geometry().clientHeight : 0;
+  const QWidget* client = Window()->findChild<cClientArea*>();
+  const int above = client->mapTo(Window(), QPoint(0, 0)).y();
+  const int below = Window()->height() - above - client->height();
   const int room = WorkArea().bottom() + 1 - windowTop - above - below;
   return std::clamp(std::min(Rows() * kCell, room), kMinClientHeight, kMaxClientHeight);
 }
 
 void cPaletteWindow::PlaceWindow(const QRect& anchor) {
   QWidget* window = Window();
-  window->layout()->activate();
   cClientArea* client = window->findChild<cClientArea*>();
-  const int extra = window->sizeHint().height() - client->sizeHint().height();
   int x = anchor.right() + 1 + kGap;
   int y = m_bStagePlt ? anchor.bottom() + 1 + kGap : anchor.top() + kGap;
   int height = (Rows() - 1) * kCell;
@@ -146,11 +149,15 @@ void cPaletteWindow::PlaceWindow(const QRect& anchor) {
     height = m_pRect->m_nHeight;
   }
   if (y < WorkArea().top()) y = kGap;
-  const int maximum = MaxClientHeight(y);
-  client->setMinimumHeight(kMinClientHeight);
-  client->setMaximumHeight(maximum);
   window->move(x, y);
-  window->resize(window->sizeHint().width(), std::clamp(height, kMinClientHeight, maximum) + std::max(extra, 0));
+  // The frame is fitted around a client of the wanted height, which the
+  // author may then change between the limits.
+  client->setFixedHeight(kMinClientHeight);
+  window->adjustSize();
+  client->setFixedHeight(std::clamp(height, kMinClientHeight, MaxClientHeight(y)));
+  window->adjustSize();
+  client->setMinimumHeight(kMinClientHeight);
+  client->setMaximumHeight(MaxClientHeight(y));
   RebuildScrollBar();
 }
 
@@ -160,12 +167,12 @@ void cPaletteWindow::StorePlace() {
   m_pRect->m_nX = Window()->x();
   m_pRect->m_nY = Window()->y();
   m_pRect->m_nWidth = kClientWidth;
-  m_pRect->m_nHeight = Geometry().clientHeight;
+  m_pRect->m_nHeight = ClientHeight();
 }
 
 void cPaletteWindow::RebuildScrollBar() {
   if (!VertBar()) return;
-  const int page = std::max(Geometry().clientHeight / kCell, 1);
+  const int page = std::max(ClientHeight() / kCell, 1);
   const int last = std::max(Rows() - page, 0);
   // Rows left empty at the bottom by a resize or a shorter list scroll in.
   m_iTopRow = std::clamp(m_iTopRow, 0, last);
@@ -200,7 +207,7 @@ void cPaletteWindow::OnPaint(QPainter& painter) {
 
 void cPaletteWindow::Render() {
   const int width = kClientWidth;
-  const int height = std::max(Geometry().clientHeight, 1);
+  const int height = std::max(ClientHeight(), 1);
   if (m_surface.Width() != width || m_surface.Height() != height) {
     m_surface.Free();
     if (!m_surface.CreateSurface(width, height, 32, false)) return;

@@ -75,6 +75,7 @@ class cPaletteWindow : public cDialog {
   void BuildMenu();
   void BuildToolBar();
   void PlaceWindow(const QRect& anchor);
+  int ClientHeight() const;
   int MaxClientHeight(int windowTop) const;
   void Render();
   void DrawEntries();

@@ -93,6 +93,7 @@ TEST_F(PaletteWindowTest, WindowsStandRightOfTheStageWindowSizedToTheirLists) {
   EXPECT_EQ(1, stage.Rows());
   EXPECT_EQ(32, ClientOf(stage)->height());
   EXPECT_EQ(common.Window()->frameGeometry().bottom() + 9, stage.Window()->y());
+  EXPECT_EQ(common.Window()->x(), stage.Window()->x());
 }
 
 TEST_F(PaletteWindowTest, ASavedPlaceIsTakenAndKeptAgainOnDestruction) {

@@ -86,9 +86,9 @@ cPaletteWindow::cPaletteWindow(cDialogManager& manager, QWidget* parent, cPalett
   m_form.okCancel = false;
 }
 
-bool cPaletteWindow::Open(const QRect& anchor) {
+bool cPaletteWindow::Open(const QRect& stageFrame, const QRect& commonFrame) {
   if (!Create(0, false)) return false;
-  PlaceWindow(anchor);
+  PlaceWindow(stageFrame, commonFrame);
   return true;
 }
 
@@ -137,11 +137,11 @@ int cPaletteWindow::MaxClientHeight(int windowTop) const {
   return std::clamp(std::min(Rows() * kCell, room), kMinClientHeight, kMaxClientHeight);
 }
 
-void cPaletteWindow::PlaceWindow(const QRect& anchor) {
+void cPaletteWindow::PlaceWindow(const QRect& stageFrame, const QRect& commonFrame) {
   QWidget* window = Window();
   cClientArea* client = window->findChild<cClientArea*>();
-  int x = anchor.right() + 1 + kGap;
-  int y = m_bStagePlt ? anchor.bottom() + 1 + kGap : anchor.top() + kGap;
+  int x = stageFrame.right() + 1 + kGap;
+  int y = m_bStagePlt ? commonFrame.bottom() + 1 + kGap : stageFrame.top() + kGap;
   int height = (Rows() - 1) * kCell;
   if (m_pRect->m_bStored) {
     x = m_pRect->m_nX;

@@ -36,10 +36,10 @@ class cPaletteWindow : public cDialog {
   cPaletteWindow(cDialogManager& manager, QWidget* parent, cPaletteSide side, cWindowPlace& place,
                  const cPaletteLinks& links);
 
-  // Makes the window, hidden, at its saved place or beside `anchor`: the
-  // stage window's frame for a common palette, the common palette window
-  // of its layer for a stage palette.
-  bool Open(const QRect& anchor);
+  // Makes the window, hidden, at its saved place or right of the stage
+  // window: a common palette level with its top, a stage palette below the
+  // common palette window of its layer.
+  bool Open(const QRect& stageFrame, const QRect& commonFrame);
   void StorePlace();
 
   cPaletteSide Side() const { return {m_bStagePlt, m_iKind}; }
@@ -74,7 +74,7 @@ class cPaletteWindow : public cDialog {
 
   void BuildMenu();
   void BuildToolBar();
-  void PlaceWindow(const QRect& anchor);
+  void PlaceWindow(const QRect& stageFrame, const QRect& commonFrame);
   int ClientHeight() const;
   int MaxClientHeight(int windowTop) const;
   void Render();

@@ -64,8 +64,8 @@ void cPaletteWindows::StorePlaces() {
 
 bool cPaletteWindows::Create(const QRect& stageFrame) {
   for (const cPaletteSide side : kCreationOrder) {
-    const QRect anchor = side.stagePlt ? Palette({0, side.kind}).Window()->frameGeometry() : stageFrame;
-    if (!Palette(side).Open(anchor)) return false;
+    const QRect commonFrame = side.stagePlt ? Palette({0, side.kind}).Window()->frameGeometry() : QRect();
+    if (!Palette(side).Open(stageFrame, commonFrame)) return false;
     if (side.stagePlt && side.kind == kCharaLayer && !m_pGroupWnd->Open(stageFrame)) return false;
   }
   Refresh();

@@ -2,6 +2,9 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
+#include <cstring>
+
 #include "platform/FileSystem.h"
 
 namespace velmora {
@@ -19,15 +22,17 @@ std::unique_ptr<cDataFile> cDataFile::OpenForRead(const std::string& stored) {
     std::fclose(file);
     return nullptr;
   }
-  std::setvbuf(file, nullptr, _IOFBF, kStreamBuffer);
+  std::setvbuf(file, nullptr, _IONBF, 0);
   return std::unique_ptr<cDataFile>(new cDataFile(file, static_cast<uint64_t>(st.st_size)));
 }
 
 std::unique_ptr<cDataFile> cDataFile::OpenForWrite(const std::string& stored) {
   std::FILE* file = OpenFile(stored, "wb");
   if (!file) return nullptr;
-  std::setvbuf(file, nullptr, _IOFBF, kStreamBuffer);
-  return std::unique_ptr<cDataFile>(new cDataFile(file, 0));
+  std::setvbuf(file, nullptr, _IONBF, 0);
+  std::unique_ptr<cDataFile> data(new cDataFile(file, 0));
+  data->m_bWriting = true;
+  return data;
 }
 
 std::unique_ptr<cDataFile> cDataFile::FromMemory(const void* data, size_t size) {
@@ -39,15 +44,31 @@ std::unique_ptr<cDataFile> cDataFile::FromMemory(const void* data, size_t size) 
 
 cDataFile::~cDataFile() { Close(); }
 
+bool cDataFile::Refill() {
+  if (m_buffer.empty()) m_buffer.resize(kStreamBuffer);
+  const size_t wanted = static_cast<size_t>(std::min<uint64_t>(m_buffer.size(), Remaining()));
+  m_nBufPos = 0;
+  m_nBufEnd = fread_unlocked(m_buffer.data(), 1, wanted, m_pFile);
+  return m_nBufEnd > 0;
+}
+
 bool cDataFile::Read(void* target, size_t bytes) {
   if (m_bEnded || bytes > Remaining()) {
     m_bEnded = true;
     return false;
   }
-  if (bytes == 0) return true;
-  if (fread_unlocked(target, 1, bytes, m_pFile) != bytes) {
-    m_bEnded = true;
-    return false;
+  char* out = static_cast<char*>(target);
+  size_t left = bytes;
+  while (left > 0) {
+    if (m_nBufPos == m_nBufEnd && !Refill()) {
+      m_bEnded = true;
+      return false;
+    }
+    const size_t piece = std::min(left, m_nBufEnd - m_nBufPos);
+    std::memcpy(out, m_buffer.data() + m_nBufPos, piece);
+    m_nBufPos += piece;
+    out += piece;
+    left -= piece;
   }
   m_nPos += bytes;
   return true;
@@ -58,9 +79,15 @@ bool cDataFile::Skip(size_t bytes) {
     m_bEnded = true;
     return false;
   }
-  if (std::fseek(m_pFile, static_cast<long>(bytes), SEEK_CUR) != 0) {
-    m_bEnded = true;
-    return false;
+  const size_t buffered = m_nBufEnd - m_nBufPos;
+  if (bytes <= buffered) {
+    m_nBufPos += bytes;
+  } else {
+    if (std::fseek(m_pFile, static_cast<long>(bytes - buffered), SEEK_CUR) != 0) {
+      m_bEnded = true;
+      return false;
+    }
+    m_nBufPos = m_nBufEnd = 0;
   }
   m_nPos += bytes;
   return true;
@@ -68,11 +95,24 @@ bool cDataFile::Skip(size_t bytes) {
 
 void cDataFile::Write(const void* source, size_t bytes) {
   if (bytes == 0 || m_bWriteFailed) return;
-  if (fwrite_unlocked(source, 1, bytes, m_pFile) != bytes) m_bWriteFailed = true;
+  if (m_buffer.empty()) m_buffer.resize(kStreamBuffer);
+  if (bytes > m_buffer.size() - m_nBufEnd) Flush();
+  if (bytes >= m_buffer.size()) {
+    if (fwrite_unlocked(source, 1, bytes, m_pFile) != bytes) m_bWriteFailed = true;
+    return;
+  }
+  std::memcpy(m_buffer.data() + m_nBufEnd, source, bytes);
+  m_nBufEnd += bytes;
+}
+
+void cDataFile::Flush() {
+  if (m_nBufEnd > 0 && fwrite_unlocked(m_buffer.data(), 1, m_nBufEnd, m_pFile) != m_nBufEnd) m_bWriteFailed = true;
+  m_nBufEnd = 0;
 }
 
 bool cDataFile::Close() {
   if (!m_pFile) return !m_bWriteFailed;
+  if (m_bWriting) Flush();
   if (std::fclose(m_pFile) != 0) m_bWriteFailed = true;
   m_pFile = nullptr;
   return !m_bWriteFailed;

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace velmora {
 
@@ -39,7 +40,15 @@ class cDataFile {
 
  private:
   explicit cDataFile(std::FILE* file, uint64_t size) : m_pFile(file), m_nSize(size) {}
+  bool Refill();
+  void Flush();
   std::FILE* m_pFile;
+  // Records move a few bytes at a time; they go through this buffer so that
+  // the C library is called once per block, not once per field.
+  std::vector<char> m_buffer;
+  size_t m_nBufPos = 0;
+  size_t m_nBufEnd = 0;
+  bool m_bWriting = false;
   uint64_t m_nSize;
   uint64_t m_nPos = 0;
   bool m_bEnded = false;

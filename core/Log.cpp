@@ -25,6 +25,17 @@ std::string FormatV(const char* format, va_list args) {
   return buffer;
 }
 
+// va_start can only run inside the variadic function itself, so the one
+// shared formatting step has to be a macro.
+#define FORMAT_ARGUMENTS(text, format) \
+  std::string text;                    \
+  do {                                 \
+    va_list args;                      \
+    va_start(args, format);            \
+    text = FormatV(format, args);      \
+    va_end(args);                      \
+  } while (0)
+
 void AppendLine(const std::string& file, const char* mode, const std::string& text) {
   if (file.empty()) return;
   std::FILE* out = OpenFile(file, mode);
@@ -67,10 +78,7 @@ bool DebugSwitch() { return g_debugSwitch; }
 void SetActiveWindow(OwnerWindow window) { g_activeWindow = window; }
 
 void ReportLine(const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  std::string text = FormatV(format, args);
-  va_end(args);
+  FORMAT_ARGUMENTS(text, format);
   AppendReport(text);
 }
 
@@ -80,19 +88,13 @@ void ReportText(const char* text) {
 }
 
 void ReportFormat(const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  std::string text = FormatV(format, args);
-  va_end(args);
+  FORMAT_ARGUMENTS(text, format);
   AppendReport(text);
   AppendDebug(text);
 }
 
 void ReportBoxFormat(const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  std::string text = FormatV(format, args);
-  va_end(args);
+  FORMAT_ARGUMENTS(text, format);
   AppendReport(text);
   AppendDebug(text);
   ShowError(g_activeWindow, text);
@@ -102,35 +104,23 @@ void DebugText(const char* text) { AppendDebug(text); }
 
 void DebugFormat(const char* format, ...) {
   if (!g_debugSwitch) return;
-  va_list args;
-  va_start(args, format);
-  std::string text = FormatV(format, args);
-  va_end(args);
+  FORMAT_ARGUMENTS(text, format);
   AppendDebug(text);
 }
 
 void DebugBox(const char* format, ...) {
   if (!g_debugSwitch) return;
-  va_list args;
-  va_start(args, format);
-  std::string text = FormatV(format, args);
-  va_end(args);
+  FORMAT_ARGUMENTS(text, format);
   ShowError(g_activeWindow, text);
 }
 
 void ErrorBox(const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  std::string text = FormatV(format, args);
-  va_end(args);
+  FORMAT_ARGUMENTS(text, format);
   ShowError(g_activeWindow, text);
 }
 
 void ErrorBoxOwned(OwnerWindow owner, const char* format, ...) {
-  va_list args;
-  va_start(args, format);
-  std::string text = FormatV(format, args);
-  va_end(args);
+  FORMAT_ARGUMENTS(text, format);
   ShowError(owner, text);
 }
 

@@ -9,14 +9,19 @@
 #include "core/SystemText.h"
 #include "objects/Inherit.h"
 #include "objects/Palette.h"
+#include "platform/FileSync.h"
 #include "platform/FileSystem.h"
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
+#include "stage/StageLoader.h"
 
 namespace velmora {
 namespace {
 
 enum eOldStageHandling { kMoveOldToFolder = 0, kKeepOld = 1, kDeleteOld = 2 };
+
+// The new file's name in the work folder until it replaces the stage file.
+constexpr const char* kFreshSuffix = ".new";
 
 std::string FileNameOf(const std::string& path) {
   const size_t cut = path.find_last_of('\\');
@@ -67,18 +72,44 @@ cFilePrompt PalettePrompt(const char* title) {
 
 void ShowProgress(const char* caption, const char* text) { Prompt().ShowMessageWindow(nullptr, SysText(caption), SysText(text)); }
 
-// The file written over its backup: when the write fails, the backup goes
-// back in place, so the author keeps the last good file.
-int OverwriteStage(const std::string& path) {
+void ReportSaveFailure(const std::string& path) { ErrorBox(SysText("ステージファイル %s の保存に失敗しました！"), path.c_str()); }
+
+// A kill at any moment must leave the stage file whole or its backup in the
+// work folder, where the next load finds it: the new file is written and
+// forced to disk in the work folder, the old one becomes the backup, and the
+// new one then takes its place by a rename.
+int WriteStageSafely(const std::string& path) {
   const std::string backup = BackupPathOf(path);
-  const bool backedUp = MoveFileReplacing(path, backup);
-  if (!EditStage().SaveFile(path)) {
+  const std::string fresh = backup + kFreshSuffix;
+  if (!EditStage().SaveFile(fresh) || !SyncFile(fresh)) {
+    RemoveFile(fresh);
+    ReportSaveFailure(path);
+    return 0;
+  }
+  const bool backedUp = FileExists(path) && MoveFileReplacing(path, backup);
+  // Another drive can't take a rename; there the file is written in place,
+  // its trailer last, which the next load tests.
+  const bool placed = MoveFileReplacing(fresh, path) || (EditStage().SaveFile(path) && SyncFile(path));
+  RemoveFile(fresh);
+  if (!placed) {
     if (backedUp) MoveFileReplacing(backup, path);
-    ErrorBox(SysText("ステージファイル %s の保存に失敗しました！"), path.c_str());
+    ReportSaveFailure(path);
     return 0;
   }
   if (backedUp && !RemoveFile(backup)) DebugBox("%s", SysText("バックアップファイルの削除に失敗しました！"));
   return 1;
+}
+
+// Files too new or too old to carry the trailer count as whole: the load
+// judges them. A file too short for its version word was cut off by a save.
+bool StageFileIsWhole(const std::string& path) {
+  const long long size = FileSize(path);
+  if (size < static_cast<long long>(sizeof(uint32_t))) return false;
+  DataFilePtr file = OpenRead(path);
+  if (!file) return g_bFileTooNew != 0;
+  if (g_nFileVersion < 174) return true;
+  int32_t word = 0;
+  return size >= 8 && file->Skip(static_cast<size_t>(size - 8)) && file->ReadInt32(word) && word == StageTrailer;
 }
 
 void HandleOldVersion(const std::string& oldPath) {
@@ -107,7 +138,7 @@ int SaveThroughDialog(int overwrite) {
     return 0;
   }
   ShowProgress("ステージの保存", "ステージを保存しています...");
-  const int saved = EditStage().SaveFile(chosen);
+  const int saved = WriteStageSafely(chosen);
   Prompt().CloseMessageWindow();
   if (!saved) return 0;
   edit.m_strPath = Relative(chosen);
@@ -133,21 +164,15 @@ std::string CurrentStageExtension() {
 }
 
 int CheckStageFile(const std::string& path) {
-  {
-    DataFilePtr file = OpenRead(path);
-    if (!file) return 1;
-    if (g_nFileVersion < 174) return 1;
-    const long long size = FileSize(path);
-    int32_t word = 0;
-    if (size >= 8 && file->Skip(static_cast<size_t>(size - 8)) && file->ReadInt32(word) && word == StageTrailer) return 1;
-  }
+  const bool present = FileExists(path);
+  if (present && StageFileIsWhole(path)) return 1;
   const std::string backup = BackupPathOf(path);
   // Without a backup the broken file is all there is: it stays.
   if (!FileExists(backup)) {
-    ReportFormat("broken stage file %s has no backup", path.c_str());
+    if (present) ReportFormat("broken stage file %s has no backup", path.c_str());
     return 1;
   }
-  if (!RemoveFile(path)) ErrorBox("%s", SysText("破損ファイルの削除に失敗しました！"));
+  if (present && !RemoveFile(path)) ErrorBox("%s", SysText("破損ファイルの削除に失敗しました！"));
   MoveFileReplacing(backup, path);
   char text[600];
   std::snprintf(text, sizeof text, SysText("破損ファイル %s を復旧しました！\n※ただし、前回の更新内容が保存されていない可能性があります…"),
@@ -158,7 +183,9 @@ int CheckStageFile(const std::string& path) {
 
 int LoadStage(const std::string& path) {
   CheckStageFile(path);
-  if (EditStage().LoadFile(path)) return 1;
+  const eStageLoad result = StageLoader().Run(path);
+  if (result == eStageLoad::Loaded) return 1;
+  if (result == eStageLoad::Quit) return 0;
   ErrorBox(SysText("ステージファイル %s の読み込みに失敗しました！"), path.c_str());
   return 0;
 }
@@ -173,7 +200,7 @@ int SaveStage(int overwrite) {
   }
   if (!edit.m_bStageChanged) return 1;
   ShowProgress("ステージの保存", "ステージを保存しています...");
-  const int saved = OverwriteStage(edit.m_strPath);
+  const int saved = WriteStageSafely(edit.m_strPath);
   Prompt().CloseMessageWindow();
   if (saved) edit.m_bStageChanged = 0;
   return saved;

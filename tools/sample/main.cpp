@@ -2,6 +2,7 @@
 #include <cstring>
 #include <string>
 
+#include "sample/SampleGame.h"
 #include "sample/SampleProject.h"
 
 int main(int argc, char** argv) {
@@ -11,7 +12,8 @@ int main(int argc, char** argv) {
     return 2;
   }
   std::string error;
-  if (!velmora::sample::MakeSampleProject(argv[argc - 1], fresh, error)) {
+  if (!velmora::sample::MakeSampleProject(argv[argc - 1], fresh, error) ||
+      !velmora::sample::PlaceStandinGame(argv[argc - 1], error)) {
     std::fprintf(stderr, "velmora-make-sample: %s\n", error.c_str());
     return 1;
   }

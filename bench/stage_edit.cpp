@@ -1,0 +1,84 @@
+// The memory of one undo snapshot and the speed of recording, undoing and
+// filling on the largest stage.
+#include <malloc.h>
+
+#include <chrono>
+#include <cstdio>
+#include <vector>
+
+#include "stage/Stage.h"
+#include "stage/StageEdit.h"
+#include "stage/StageFill.h"
+#include "stage/StageHistory.h"
+#include "stage/StageHooks.h"
+
+namespace {
+
+using namespace velmora;
+
+constexpr int kSide = 512;
+constexpr int kCells = kSide * kSide;
+
+double MsSince(std::chrono::steady_clock::time_point since) {
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - since).count();
+}
+
+// Heap in use, large mapped blocks included.
+size_t HeapInUse() {
+  const struct mallinfo2 info = mallinfo2();
+  return info.uordblks + info.hblkhd;
+}
+
+// Heap growth of three empty layers: the records themselves and what they own.
+double SnapshotBytesPerCell() {
+  const size_t before = HeapInUse();
+  std::vector<cEdBlock> blocks(kCells);
+  std::vector<cEdChara> charas(kCells);
+  std::vector<cEdItem> items(kCells);
+  const size_t grown = HeapInUse() - before;
+  return static_cast<double>(grown) / kCells;
+}
+
+void SetUpStage(int levels) {
+  cStage& stage = EditStage();
+  stage.InitDefault();
+  stage.SetSize(kSide, kSide, 0, 0);
+  stage.m_iUndoCount = levels;
+  StageHooks().freeMemory = [] { return uint64_t{1} << 40; };
+  AllocHistory(levels, stage.m_nPitch, stage.m_nHeight);
+}
+
+// One cell in a hundred holds a block, a character and an item.
+void OccupyOnePercent() {
+  cStage& stage = EditStage();
+  for (int i = 0; i < kCells; i += 100) {
+    stage.m_vecBlockCell[static_cast<size_t>(i)].m_nGraphicNo = 1;
+    stage.m_vecCharaCell[static_cast<size_t>(i)].m_nGraphicNo = 1;
+    stage.m_vecItemCell[static_cast<size_t>(i)].m_nGraphicNo = 1;
+  }
+}
+
+}  // namespace
+
+int main() {
+  std::printf("BENCH stage_bytes_per_cell %.1f bytes target <= 580\n", SnapshotBytesPerCell());
+
+  SetUpStage(3);
+  OccupyOnePercent();
+  for (int i = 0; i < 3; ++i) RecordStep(kLayerAll);
+  auto start = std::chrono::steady_clock::now();
+  RecordStep(kLayerAll);
+  std::printf("BENCH undo_record_ms %.2f ms target <= 10\n", MsSince(start));
+  start = std::chrono::steady_clock::now();
+  Undo();
+  std::printf("BENCH undo_undo_ms %.2f ms target <= 10\n", MsSince(start));
+
+  ClearHistory();
+  SetUpStage(0);
+  StageEdit().m_vecBrushBlock.assign(1, cEdBlock());
+  StageEdit().m_vecBrushBlock[0].m_nGraphicNo = 1;
+  start = std::chrono::steady_clock::now();
+  FillAt(0, 0);
+  std::printf("BENCH fill_512_ms %.2f ms target <= 100\n", MsSince(start));
+  return 0;
+}

@@ -1,0 +1,118 @@
+// Loads and saves a full 512 x 512 stage, every layer occupied by entries
+// with conditions and flows, and sets each against moving the same number of
+// bytes through plain stdio.
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <vector>
+
+#include "core/SaveData.h"
+#include "platform/FileSystem.h"
+#include "stage/Stage.h"
+
+namespace {
+
+using namespace velmora;
+
+constexpr int kSide = 512;
+constexpr size_t kChunk = 1 << 16;
+
+double Ms(std::chrono::steady_clock::time_point since) {
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - since).count();
+}
+
+template <class Entry>
+void GiveBehaviour(Entry& entry, int graphic) {
+  entry.m_nGraphicNo = graphic;
+  entry.m_vCond.resize(2);
+  entry.m_vCond[1].m_nKind = 3;
+}
+
+void FillStage(cStage& stage) {
+  stage.InitDefault();
+  stage.SetSize(kSide, kSide, 0, 0);
+  cEdChara enemy;
+  GiveBehaviour(enemy, 2);
+  enemy.m_nControl = 1;
+  enemy.m_vFlow.resize(3);
+  for (cEdFlow& flow : enemy.m_vFlow) {
+    flow.m_vCond.resize(2);
+    flow.m_vCmd.resize(4);
+    for (cEdCmd& cmd : flow.m_vCmd) cmd.m_vParam.assign(6, 7);
+  }
+  cEdBlock block;
+  GiveBehaviour(block, 1);
+  cEdItem item;
+  GiveBehaviour(item, 3);
+  item.m_vCmd.resize(2);
+  stage.m_vecBlockPlt.push_back(block);
+  stage.m_vecCharaPlt.push_back(enemy);
+  stage.m_vecItemPlt.push_back(item);
+  for (int y = 0; y < kSide; ++y) {
+    for (int x = 0; x < kSide; ++x) {
+      const size_t cell = static_cast<size_t>(stage.CellIndex(x, y));
+      stage.m_vecBlockCell[cell].CopyFrom(block);
+      stage.m_vecCharaCell[cell] = enemy;
+      stage.m_vecItemCell[cell] = item;
+    }
+  }
+  stage.m_vecCharaCell[0].m_nControl = 0;  // the player
+}
+
+double PlainWrite(const std::string& host, size_t bytes) {
+  std::vector<char> chunk(kChunk, 'x');
+  const auto start = std::chrono::steady_clock::now();
+  std::FILE* file = std::fopen(host.c_str(), "wb");
+  for (size_t done = 0; done < bytes; done += kChunk) std::fwrite(chunk.data(), 1, std::min(kChunk, bytes - done), file);
+  std::fclose(file);
+  return Ms(start);
+}
+
+double PlainRead(const std::string& host) {
+  std::vector<char> chunk(kChunk);
+  const auto start = std::chrono::steady_clock::now();
+  std::FILE* file = std::fopen(host.c_str(), "rb");
+  while (std::fread(chunk.data(), 1, kChunk, file) == kChunk) {
+  }
+  std::fclose(file);
+  return Ms(start);
+}
+
+}  // namespace
+
+int main() {
+  const std::string stored = "velmora_bench_stage.stg4_950";
+  const std::string host = "/tmp/velmora_bench_stage.stg4_950";
+  const std::string plain = "/tmp/velmora_bench_stage.plain";
+  if (::chdir("/tmp") != 0) return 1;
+  cStage& stage = EditStage();
+  FillStage(stage);
+
+  auto start = std::chrono::steady_clock::now();
+  if (!stage.SaveFile(stored)) return 1;
+  const double save = Ms(start);
+  const long long bytes = FileSize(stored);
+  stage.InitDefault();
+  start = std::chrono::steady_clock::now();
+  if (!stage.LoadFile(stored)) return 1;
+  const double load = Ms(start);
+  const bool whole = stage.m_nWidth == kSide && stage.m_vecItemCell[1].m_nGraphicNo == 3 &&
+                     stage.m_vecCharaCell[static_cast<size_t>(stage.CellIndex(kSide - 1, kSide - 1))].m_vFlow.size() == 3;
+
+  const double write = PlainWrite(plain, static_cast<size_t>(bytes));
+  const double read = PlainRead(plain);
+  ::unlink(host.c_str());
+  ::unlink(plain.c_str());
+  if (!whole) {
+    std::fprintf(stderr, "stage round trip differs\n");
+    return 1;
+  }
+  std::printf("BENCH stage_file_bytes %lld bytes\n", bytes);
+  std::printf("BENCH stage_save_ms %.1f ms\n", save);
+  std::printf("BENCH stage_load_ms %.1f ms\n", load);
+  std::printf("BENCH stage_load_vs_read_ratio %.2f x target <= 10\n", load / read);
+  std::printf("BENCH stage_save_vs_write_ratio %.2f x target <= 10\n", save / write);
+  return 0;
+}

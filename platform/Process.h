@@ -1,0 +1,17 @@
+#pragma once
+#include <string>
+#include <vector>
+
+namespace velmora {
+
+// Starts `argv[0]` (a host path; with `searchPath` looked up on PATH like a
+// shell would) with the other entries as its arguments, in `workDir`, and
+// returns without waiting. False, with errno kept, when it can't be
+// started. Children that have ended since are collected on each call, so a
+// run of test plays leaves no defunct processes behind.
+bool StartProcess(const std::vector<std::string>& argv, const std::string& workDir, bool searchPath);
+
+// Collects started children that have ended.
+void CollectEndedProcesses();
+
+}  // namespace velmora

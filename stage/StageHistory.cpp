@@ -1,0 +1,214 @@
+#include "stage/StageHistory.h"
+
+#include <algorithm>
+#include <new>
+
+#include "core/CheckedAccess.h"
+#include "core/Log.h"
+#include "core/SystemText.h"
+#include "stage/Stage.h"
+#include "stage/StageEdit.h"
+#include "stage/StageHooks.h"
+
+namespace velmora {
+namespace {
+
+// Heap cost of one block, character and item record with what they own:
+// a fixed estimate, so the figures don't move with the build.
+constexpr uint64_t kBytesPerCell = 459 + 276 + 1137 + 453;
+
+// The three layers of one slot or of the stage itself.
+struct cLayers {
+  std::vector<cEdBlock>* block;
+  std::vector<cEdChara>* chara;
+  std::vector<cEdItem>* item;
+};
+
+struct cStack {
+  std::vector<std::vector<cEdBlock>>& block;
+  std::vector<std::vector<cEdChara>>& chara;
+  std::vector<std::vector<cEdItem>>& item;
+  std::vector<uint32_t>& masks;
+  int32_t& count;
+
+  cLayers Slot(int i) { return {&VecAt(block, i), &VecAt(chara, i), &VecAt(item, i)}; }
+
+  // Moves slot `to - 1` to the front (right) or the front slot to `to - 1`
+  // (left) by swapping buffers: a step is never copied within its stack.
+  void RotateRight(int to) { Rotate(to, [](auto first, auto last) { std::rotate(first, last - 1, last); }); }
+  void RotateLeft(int to) { Rotate(to, [](auto first, auto last) { std::rotate(first, first + 1, last); }); }
+
+ private:
+  template <class Fn>
+  void Rotate(int to, Fn&& rotate) {
+    const auto n = static_cast<std::ptrdiff_t>(std::min<size_t>(static_cast<size_t>(to), masks.size()));
+    if (n < 2) return;
+    rotate(block.begin(), block.begin() + n);
+    rotate(chara.begin(), chara.begin() + n);
+    rotate(item.begin(), item.begin() + n);
+    rotate(masks.begin(), masks.begin() + n);
+  }
+};
+
+cStack UndoStack() {
+  cStageEdit& e = StageEdit();
+  return {e.m_vecUndoBlock, e.m_vecUndoChara, e.m_vecUndoItem, e.m_vecUndoMask, e.m_iUndoNum};
+}
+
+cStack RedoStack() {
+  cStageEdit& e = StageEdit();
+  return {e.m_vecRedoBlock, e.m_vecRedoChara, e.m_vecRedoItem, e.m_vecRedoMask, e.m_iRedoNum};
+}
+
+cLayers PresentLayers() {
+  cStage& s = EditStage();
+  return {&s.m_vecBlockCell, &s.m_vecCharaCell, &s.m_vecItemCell};
+}
+
+// An empty cell costs one store: a sparse stage copies fast. The bounds
+// are checked once, as the loop runs over every cell of the largest stage.
+template <class T>
+void CopyLayer(std::vector<T>& dst, const std::vector<T>& src) {
+  const cStage& stage = EditStage();
+  if (stage.m_nHeight <= 0 || stage.m_nWidth <= 0) return;
+  const int last = stage.CellIndex(stage.m_nWidth - 1, stage.m_nHeight - 1);
+  const size_t shorter = std::min(dst.size(), src.size());
+  if (static_cast<size_t>(last) >= shorter) {
+    BadIndex('V', last, static_cast<int>(shorter), static_cast<int>(sizeof(T)), eBadIndexClose::DestroyAtOnce);
+    return;
+  }
+  for (int y = 0; y < stage.m_nHeight; ++y) {
+    const size_t row = static_cast<size_t>(stage.CellIndex(0, y));
+    for (size_t i = row; i < row + static_cast<size_t>(stage.m_nWidth); ++i) {
+      if (IsOccupied(src[i])) {
+        dst[i] = src[i];
+      } else {
+        dst[i].m_nGraphicNo = 0;
+      }
+    }
+  }
+}
+
+void CopyLayers(const cLayers& dst, const cLayers& src, uint32_t mask) {
+  if (mask & kLayerBlock) CopyLayer(*dst.block, *src.block);
+  if (mask & kLayerChara) CopyLayer(*dst.chara, *src.chara);
+  if (mask & kLayerItem) CopyLayer(*dst.item, *src.item);
+}
+
+// The oldest step falls off a full stack: its buffers take the new one.
+void PushStep(uint32_t mask, cStack stack) {
+  const int levels = EditStage().m_iUndoCount;
+  if (levels <= 0 || StageEdit().m_bTestPlay) return;
+  stack.RotateRight(levels);
+  VecAt(stack.masks, 0) = mask;
+  CopyLayers(stack.Slot(0), PresentLayers(), mask);
+  if (stack.count < levels) ++stack.count;
+}
+
+template <class T>
+void InheritOccupied(std::vector<T>& cells) {
+  const cStage& stage = EditStage();
+  for (int y = 0; y < stage.m_nHeight; ++y) {
+    for (int x = 0; x < stage.m_nWidth; ++x) {
+      T& cell = VecAt(cells, stage.CellIndex(x, y));
+      if (IsOccupied(cell)) cell.ApplyInherit();
+    }
+  }
+}
+
+// Moves the newest step of `from` back into the stage; the present state
+// of its layers goes to `to`.
+void StepBack(cStack from, cStack to) {
+  if (EditStage().m_iUndoCount <= 0 || from.count <= 0) return;
+  const uint32_t mask = VecAt(from.masks, 0);
+  PushStep(mask, to);
+  cLayers present = PresentLayers();
+  CopyLayers(present, from.Slot(0), mask);
+  {
+    cStagePaletteScope scope(EditStage());
+    if (mask & kLayerBlock) InheritOccupied(*present.block);
+    if (mask & kLayerChara) InheritOccupied(*present.chara);
+    if (mask & kLayerItem) InheritOccupied(*present.item);
+  }
+  from.RotateLeft(from.count);
+  --from.count;
+  EditStage().RemoveSurplusPlayers();
+}
+
+template <class T>
+void AllocSlots(std::vector<std::vector<T>>& slots, int level, size_t cells) {
+  VecAt(slots, level).resize(cells);
+}
+
+void AllocAllSlots(int levels, size_t cells) {
+  cStageEdit& e = StageEdit();
+  e.m_vecUndoBlock.resize(static_cast<size_t>(levels));
+  e.m_vecUndoChara.resize(static_cast<size_t>(levels));
+  e.m_vecUndoItem.resize(static_cast<size_t>(levels));
+  e.m_vecRedoBlock.resize(static_cast<size_t>(levels));
+  e.m_vecRedoChara.resize(static_cast<size_t>(levels));
+  e.m_vecRedoItem.resize(static_cast<size_t>(levels));
+  e.m_vecUndoMask.assign(static_cast<size_t>(levels), 0);
+  e.m_vecRedoMask.assign(static_cast<size_t>(levels), 0);
+  for (int level = 0; level < levels; ++level) {
+    AllocSlots(e.m_vecUndoBlock, level, cells);
+    AllocSlots(e.m_vecUndoChara, level, cells);
+    AllocSlots(e.m_vecUndoItem, level, cells);
+    AllocSlots(e.m_vecRedoBlock, level, cells);
+    AllocSlots(e.m_vecRedoChara, level, cells);
+    AllocSlots(e.m_vecRedoItem, level, cells);
+  }
+}
+
+}  // namespace
+
+uint64_t EstimateStep(int width, int height) {
+  const uint64_t pitch = uint64_t{1} << CalcPitchShift(width);
+  return pitch * static_cast<uint64_t>(height < 0 ? 0 : height) * kBytesPerCell;
+}
+
+void ClearHistory() {
+  cStageEdit& e = StageEdit();
+  for (auto* slots : {&e.m_vecUndoBlock, &e.m_vecRedoBlock}) std::vector<std::vector<cEdBlock>>().swap(*slots);
+  for (auto* slots : {&e.m_vecUndoChara, &e.m_vecRedoChara}) std::vector<std::vector<cEdChara>>().swap(*slots);
+  for (auto* slots : {&e.m_vecUndoItem, &e.m_vecRedoItem}) std::vector<std::vector<cEdItem>>().swap(*slots);
+  std::vector<uint32_t>().swap(e.m_vecUndoMask);
+  std::vector<uint32_t>().swap(e.m_vecRedoMask);
+  e.m_iUndoNum = 0;
+  e.m_iRedoNum = 0;
+}
+
+void AllocHistory(int levels, int pitch, int height) {
+  ClearHistory();
+  if (levels < 1) return;
+  cStage& stage = EditStage();
+  const uint64_t step = EstimateStep(stage.m_nPitch, stage.m_nHeight);
+  const uint64_t avail = FreeMemoryForStage();
+  if (avail < step + step * static_cast<uint64_t>(stage.m_iUndoCount) * 2) {
+    const uint64_t fits = avail < step ? 0 : (avail - step) / (step * 2);
+    stage.m_iUndoCount = static_cast<int32_t>(fits);
+    levels = stage.m_iUndoCount;
+    DebugBox(SysText("元に戻せる回数を %d回 に強制変更！"), levels);
+    if (levels < 1) return;
+  }
+  try {
+    AllocAllSlots(levels, static_cast<size_t>(pitch) * static_cast<size_t>(height < 0 ? 0 : height));
+  } catch (const std::bad_alloc&) {
+    ClearHistory();
+    StopOutOfMemory();
+  }
+}
+
+void RecordStep(uint32_t mask) {
+  PushStep(mask, UndoStack());
+  StageEdit().m_iRedoNum = 0;
+  CallHook(StageHooks().refreshUndoButtons);
+}
+
+void Undo() { StepBack(UndoStack(), RedoStack()); }
+void Redo() { StepBack(RedoStack(), UndoStack()); }
+
+bool CanUndo() { return EditStage().m_iUndoCount > 0 && StageEdit().m_iUndoNum > 0; }
+bool CanRedo() { return EditStage().m_iUndoCount > 0 && StageEdit().m_iRedoNum > 0; }
+
+}  // namespace velmora

@@ -1,0 +1,39 @@
+#pragma once
+#include <atomic>
+#include <functional>
+#include <string>
+#include <thread>
+
+namespace velmora {
+
+// Takes the messages waiting for the user-interface thread and drops them;
+// false when a quit request was among them. The GUI installs the real one.
+using MessageDropper = std::function<bool()>;
+void SetMessageDropper(MessageDropper dropper);  // empty brings back the default
+
+enum class eStageLoad { Loaded, Failed, Quit };
+
+// The one worker that parses a stage file while the user-interface thread
+// only drops its messages, so no lock guards the edit stage: nobody else
+// touches it until the worker has ended.
+class cStageLoader {
+ public:
+  ~cStageLoader() { Stop(); }
+  // Reads the edit stage from `path`; Quit when a quit request ended the wait.
+  eStageLoad Run(const std::string& path);
+  // Waits for a running worker. A load reads a bounded file and can't hang,
+  // so after the rounds of asking it is awaited rather than killed halfway
+  // through writing the edit stage.
+  void Stop();
+  bool Running() const { return m_thread.joinable() && !m_bDone.load(); }
+
+ private:
+  std::string m_strPath;
+  std::thread m_thread;
+  std::atomic<bool> m_bDone{false};
+  std::atomic<bool> m_bSucceeded{false};
+};
+
+cStageLoader& StageLoader();
+
+}  // namespace velmora

@@ -11,6 +11,7 @@
 #include "objects/Palette.h"
 #include "objects/PaletteTables.h"
 #include "stage/Stage.h"
+#include "stage/StageBrush.h"
 #include "stage/StageEdit.h"
 
 namespace velmora {
@@ -288,16 +289,6 @@ bool DeleteEntry(cPaletteSide side, int index) {
     TakeBrush(side);
   }
   return true;
-}
-
-void EmptyPaletteClipboard() {
-  cStageEdit& edit = StageEdit();
-  edit.m_pClipBlock.reset();
-  edit.m_pClipChara.reset();
-  edit.m_pClipItem.reset();
-  edit.m_bClip = 0;
-  edit.m_iClipIndex = -1;
-  edit.m_bClipCut = 0;
 }
 
 bool SetEntryCount(cPaletteSide side, int count) {

@@ -30,8 +30,6 @@ bool InsertEntry(cPaletteSide side, int index);
 // The clipboard's entry inserted; a cut entry leaves its own palette.
 bool InsertCopied(cPaletteSide side, int index);
 bool DeleteEntry(cPaletteSide side, int index);
-// Empties the clipboard of every layer.
-void EmptyPaletteClipboard();
 
 // The list gets `count` entries besides entry 0 (1 to 9999).
 bool SetEntryCount(cPaletteSide side, int count);

@@ -29,7 +29,7 @@ void cGroupWindow::BuildClient(QWidget& client) {
   auto* grid = new QGridLayout(&client);
   grid->setSpacing(0);
   grid->setContentsMargins(2, 2, 2, 2);
-  for (int group = 0; group < kGroupBoxCount; ++group) {
+  for (int group = 0; group < kGroupCount; ++group) {
     auto* box = new QPushButton(QString::number(group), &client);
     box->setCheckable(true);
     box->setFocusPolicy(Qt::NoFocus);
@@ -59,9 +59,9 @@ void cGroupWindow::StorePlace() {
   m_pRect->m_nHeight = Window()->height();
 }
 
-void cGroupWindow::ShowGroups(const std::bitset<kGroupBoxCount>& used) {
+void cGroupWindow::ShowGroups(const std::bitset<kGroupCount>& used) {
   m_used = used;
-  for (int group = 0; group < kGroupBoxCount; ++group) {
+  for (int group = 0; group < kGroupCount; ++group) {
     if (QPushButton* box = m_apBox[static_cast<size_t>(group)].data()) box->setChecked(used.test(static_cast<size_t>(group)));
   }
 }

@@ -6,13 +6,13 @@
 #include <bitset>
 #include <functional>
 
+#include "stage/StageCommands.h"
 #include "ui/framework/Dialog.h"
 
 namespace velmora {
 
 class cWindowPlace;
 
-inline constexpr int kGroupBoxCount = 60;
 
 // "キャラのグループ情報": which group numbers the characters on the stage
 // use. A display only: a click on a box changes nothing.
@@ -23,7 +23,7 @@ class cGroupWindow : public cDialog {
   // Made hidden, at its saved place or below `anchor`, the stage window.
   bool Open(const QRect& anchor);
   void StorePlace();
-  void ShowGroups(const std::bitset<kGroupBoxCount>& used);
+  void ShowGroups(const std::bitset<kGroupCount>& used);
   bool IsDown(int group) const;
   void OnCommand(uint32_t wParam, intptr_t lParam) override;
 
@@ -34,8 +34,8 @@ class cGroupWindow : public cDialog {
  private:
   cWindowPlace* m_pRect;
   std::function<void()> m_nextLayer;
-  std::array<QPointer<QPushButton>, kGroupBoxCount> m_apBox;
-  std::bitset<kGroupBoxCount> m_used;
+  std::array<QPointer<QPushButton>, kGroupCount> m_apBox;
+  std::bitset<kGroupCount> m_used;
 };
 
 }  // namespace velmora

@@ -13,7 +13,6 @@ namespace {
 
 constexpr std::array<int, 5> kToolCommands = {40044, 40045, 40046, 40047, 40087};
 constexpr std::array<int, 2> kRightModeCommands = {kCmdRightEdits, kCmdRightMenu};
-constexpr std::array<int, 5> kCursorModes = {0, 1, 2, 3, 3};
 constexpr std::array<int, 7> kStageCommands = {40003, 40004, 40005, 40006, 40010, 40011, 40133};
 
 // Images 0..4 are the pen strip's, 5 and 6 the right-button strip's.
@@ -95,10 +94,6 @@ const cAccelTable& PaletteAccelerators() {
 bool IsStageCommand(int command) { return PositionOf(kStageCommands, command) >= 0; }
 int ToolOfCommand(int command) { return PositionOf(kToolCommands, command); }
 int RightModeOfCommand(int command) { return PositionOf(kRightModeCommands, command); }
-
-int CursorModeOfTool(int tool) {
-  return tool >= 0 && tool < static_cast<int>(kCursorModes.size()) ? kCursorModes[static_cast<size_t>(tool)] : 0;
-}
 
 bool ButtonIsDown(int command, int tool, int rightMode) {
   if (const int buttonTool = ToolOfCommand(command); buttonTool >= 0) return buttonTool == tool;

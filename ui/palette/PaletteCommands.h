@@ -38,7 +38,6 @@ bool IsStageCommand(int command);
 // -1 when the command is no tool or right-button mode.
 int ToolOfCommand(int command);
 int RightModeOfCommand(int command);
-int CursorModeOfTool(int tool);
 bool ButtonIsDown(int command, int tool, int rightMode);
 
 // The pop-up menu (menu 179) on an entry, with the entries that work there

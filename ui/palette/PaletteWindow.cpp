@@ -14,6 +14,7 @@
 #include "core/WindowPlace.h"
 #include "objects/Palette.h"
 #include "stage/Stage.h"
+#include "stage/StageBrush.h"
 #include "stage/StageEdit.h"
 #include "ui/controls/ScrollBar.h"
 #include "ui/framework/Commands.h"
@@ -337,7 +338,7 @@ void cPaletteWindow::OnDialogCommand(int id, int /*notice*/) {
   cStageEdit& edit = StageEdit();
   if (const int tool = ToolOfCommand(id); tool >= 0) {
     edit.m_iTool = tool;
-    edit.m_iCursorMode = CursorModeOfTool(tool);
+    edit.m_iCursorMode = CursorModeForTool(tool);
     Changed();
     return;
   }

@@ -2,8 +2,7 @@
 
 #include "core/EditConfig.h"
 #include "core/ProjectPaths.h"
-#include "objects/Chara.h"
-#include "stage/Stage.h"
+#include "stage/StageCommands.h"
 #include "stage/StageEdit.h"
 
 namespace velmora {
@@ -20,16 +19,6 @@ int SlotOf(cPaletteSide side) { return (side.stagePlt ? 3 : 0) + side.kind; }
 // its layer, and the group window stands among the characters.
 constexpr cPaletteSide kCreationOrder[] = {{0, 0}, {1, 0}, {0, 1}, {1, 1}, {0, 2}, {1, 2}};
 constexpr cPaletteSide kRepaintOrder[] = {{1, 0}, {0, 0}, {1, 1}, {0, 1}, {1, 2}, {0, 2}};
-
-std::bitset<kGroupBoxCount> UsedGroups() {
-  std::bitset<kGroupBoxCount> used;
-  for (const cEdChara& cell : EditStage().m_vecCharaCell) {
-    if (cell.m_bGroup && cell.m_nGroupNo >= 0 && cell.m_nGroupNo < kGroupBoxCount) {
-      used.set(static_cast<size_t>(cell.m_nGroupNo));
-    }
-  }
-  return used;
-}
 
 void ShowIf(QWidget* window, bool show) {
   if (window) window->setVisible(show);
@@ -89,7 +78,7 @@ void cPaletteWindows::Refresh() {
     window->ShowToolState();
   }
   IdleRepaint();
-  m_pGroupWnd->ShowGroups(UsedGroups());
+  m_pGroupWnd->ShowGroups(UsedGroupNumbers());
 }
 
 void cPaletteWindows::IdleRepaint() {

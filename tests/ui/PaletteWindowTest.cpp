@@ -11,8 +11,11 @@
 #include "core/EditConfig.h"
 #include "core/PrjOption.h"
 #include "objects/Palette.h"
+#include "objects/PaletteTables.h"
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
+#include "stage/StageHistory.h"
+#include "stage/StageTools.h"
 #include "support/TempProject.h"
 #include "ui/controls/ScrollBar.h"
 #include "ui/framework/Commands.h"
@@ -127,6 +130,27 @@ TEST_F(PaletteWindowTest, ALeftClickPicksTheEntryUnderTheMouse) {
   // Below the last entry nothing is picked.
   QTest::mouseClick(ClientOf(window), Qt::LeftButton, {}, QPoint(7 * 32 + 5, 2 * 32 + 5));
   EXPECT_EQ(11, StageEdit().m_iPltIndex);
+}
+
+TEST_F(PaletteWindowTest, ABrushPickedInAPaletteWindowPaintsTheStage) {
+  EditStage().m_vecBlockPlt = NumberedBlocks(4);
+  AllocHistory(1, EditStage().m_nPitch, EditStage().m_nHeight);
+  cPaletteWindow& window = Windows().Palette(kStageBlocks);
+  window.Window()->show();
+  QTest::mouseClick(ClientOf(window), Qt::LeftButton, {}, QPoint(2 * 32 + 16, 16));
+  ASSERT_EQ(2, StageEdit().m_iPltIndex);
+
+  StageMouse({4, 3, eStageButton::Left, eStageAction::Down, false});
+  const cEdBlock& cell = EditStage().m_vecBlockCell.at(static_cast<size_t>(EditStage().CellIndex(4, 3)));
+  EXPECT_EQ(2, cell.m_nGraphicNo);
+  EXPECT_EQ("b2", cell.m_strName);
+  EXPECT_EQ(kInheritStage, cell.m_nInheritSrc) << "placed with the stage entry as its source";
+  EXPECT_EQ(2, cell.m_nInheritNo);
+
+  // The blank entry erases.
+  QTest::mouseClick(ClientOf(window), Qt::LeftButton, {}, QPoint(16, 16));
+  StageMouse({4, 3, eStageButton::Left, eStageAction::Down, false});
+  EXPECT_EQ(0, cell.m_nGraphicNo);
 }
 
 TEST_F(PaletteWindowTest, ToolAndRightModeButtonsSetTheEditStateOnEveryWindow) {

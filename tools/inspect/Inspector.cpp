@@ -6,6 +6,7 @@
 #include "inspect/Behaviour.h"
 #include "inspect/FileKinds.h"
 #include "inspect/JsonWriter.h"
+#include "inspect/RenderStage.h"
 #include "platform/HostPath.h"
 
 namespace velmora::inspect {
@@ -15,6 +16,7 @@ const char kUsage[] =
     "usage: velmora-inspect dump FILE\n"
     "       velmora-inspect resave IN OUT\n"
     "       velmora-inspect behaviour FILE [chara:N|item:N]\n"
+    "       velmora-inspect render STAGE OUT.png [x y w h]\n"
     "Run inside a project folder so that checks use its data.\n";
 
 std::unique_ptr<cLoadedFile> LoadKnown(const std::string& path, std::string& err) {
@@ -67,6 +69,7 @@ int RunInspector(const std::vector<std::string>& args, std::string& out, std::st
   if ((args.size() == 2 || args.size() == 3) && args[0] == "behaviour") {
     return Behaviour(args[1], args.size() == 3 ? args[2] : "", out, err);
   }
+  if ((args.size() == 3 || args.size() == 7) && args[0] == "render") return RenderStage(args, err);
   err += kUsage;
   return 2;
 }

@@ -117,19 +117,72 @@ void Clip(long long& start, long long& length, long long& other, long long limit
   if (start + length > limit) length = limit - start;
 }
 
-}  // namespace
-
-void BlitImage(cPixelImage& dst, int x, int y, int w, int h, const cPixelImage& src, int sx, int sy, eRop rop) {
-  if (dst.Empty() || src.Empty()) return;
+// The part of a w x h copy that lies on both images; false when none does.
+struct cCopyRect {
+  int dx, dy, sx, sy, w, h;
+};
+bool ClipCopy(const cPixelImage& dst, int x, int y, int w, int h, const cPixelImage& src, int sx, int sy,
+              cCopyRect& out) {
   long long dx = x, dy = y, sxx = sx, syy = sy, cw = w, ch = h;
   Clip(dx, cw, sxx, dst.Width());
   Clip(sxx, cw, dx, src.Width());
   Clip(dy, ch, syy, dst.Height());
   Clip(syy, ch, dy, src.Height());
-  if (cw <= 0 || ch <= 0) return;
-  for (long long row = 0; row < ch; ++row) {
-    CombineRow(dst.Pixel(static_cast<int>(dx), static_cast<int>(dy + row)), dst,
-               src.Pixel(static_cast<int>(sxx), static_cast<int>(syy + row)), src, static_cast<int>(cw), rop);
+  if (cw <= 0 || ch <= 0) return false;
+  out = {static_cast<int>(dx), static_cast<int>(dy), static_cast<int>(sxx), static_cast<int>(syy), static_cast<int>(cw),
+         static_cast<int>(ch)};
+  return true;
+}
+
+// Mask and image meet the target in one pass: (target AND mask) OR image.
+void MaskRowSameDepth(uint8_t* dst, const uint8_t* mask, const uint8_t* image, size_t bytes) {
+  for (size_t i = 0; i < bytes; ++i) dst[i] = static_cast<uint8_t>((dst[i] & mask[i]) | image[i]);
+}
+
+void MaskRowIndexedTo32(uint8_t* dst, const uint8_t* mask, const uint8_t* image, int count,
+                        const cTrueColourTable& maskColours, const cTrueColourTable& imageColours) {
+  for (int i = 0; i < count; ++i, dst += 4) {
+    uint32_t d;
+    std::memcpy(&d, dst, 4);
+    d = (d & maskColours[mask[i]]) | imageColours[image[i]];
+    std::memcpy(dst, &d, 4);
+  }
+}
+
+}  // namespace
+
+void BlitImage(cPixelImage& dst, int x, int y, int w, int h, const cPixelImage& src, int sx, int sy, eRop rop) {
+  if (dst.Empty() || src.Empty()) return;
+  cCopyRect r;
+  if (!ClipCopy(dst, x, y, w, h, src, sx, sy, r)) return;
+  for (int row = 0; row < r.h; ++row) {
+    CombineRow(dst.Pixel(r.dx, r.dy + row), dst, src.Pixel(r.sx, r.sy + row), src, r.w, rop);
+  }
+}
+
+void BlitMasked(cPixelImage& dst, int x, int y, int w, int h, const cPixelImage& image, const cPixelImage& mask,
+                int sx, int sy) {
+  if (dst.Empty() || image.Empty()) return;
+  const bool paired = mask.Width() == image.Width() && mask.Height() == image.Height() && mask.Depth() == image.Depth();
+  const bool sameDepth = dst.Depth() == image.Depth();
+  const bool indexedTo32 = image.Depth() == 8 && dst.Depth() == 32;
+  if (!paired || !(sameDepth || indexedTo32)) {
+    BlitImage(dst, x, y, w, h, mask, sx, sy, eRop::And);
+    BlitImage(dst, x, y, w, h, image, sx, sy, eRop::Or);
+    return;
+  }
+  cCopyRect r;
+  if (!ClipCopy(dst, x, y, w, h, image, sx, sy, r)) return;
+  const size_t rowBytes = static_cast<size_t>(r.w) * static_cast<size_t>(dst.BytesPerPixel());
+  for (int row = 0; row < r.h; ++row) {
+    uint8_t* out = dst.Pixel(r.dx, r.dy + row);
+    const uint8_t* m = mask.Pixel(r.sx, r.sy + row);
+    const uint8_t* s = image.Pixel(r.sx, r.sy + row);
+    if (sameDepth) {
+      MaskRowSameDepth(out, m, s, rowBytes);
+    } else {
+      MaskRowIndexedTo32(out, m, s, r.w, mask.TrueColours(), image.TrueColours());
+    }
   }
 }
 

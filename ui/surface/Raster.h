@@ -13,6 +13,12 @@ enum class eRop { Copy, And, Or };
 // of a project shares one colour table.
 void BlitImage(cPixelImage& dst, int x, int y, int w, int h, const cPixelImage& src, int sx, int sy, eRop rop);
 
+// Masked drawing in one pass: (dst AND mask) OR image, the mask being the
+// same size as the image; gives what an And copy of the mask followed by an
+// Or copy of the image gives.
+void BlitMasked(cPixelImage& dst, int x, int y, int w, int h, const cPixelImage& image, const cPixelImage& mask,
+                int sx, int sy);
+
 // The same with scaling by point sampling from the middle of each source
 // step; extents of 0 or below draw nothing.
 void StretchImage(cPixelImage& dst, int x, int y, int w, int h, const cPixelImage& src, int sx, int sy, int sw,

@@ -42,8 +42,7 @@ bool OnDash(const cDashPattern& pattern, int n) {
 
 void cSurface::Blt(int x, int y, int w, int h, const cSurface& source, int sx, int sy, bool bOpaque) {
   if (source.HasMask() && !bOpaque) {
-    BlitImage(m_image, x, y, w, h, source.m_mask, sx, sy, eRop::And);
-    BlitImage(m_image, x, y, w, h, source.m_image, sx, sy, eRop::Or);
+    BlitMasked(m_image, x, y, w, h, source.m_image, source.m_mask, sx, sy);
     return;
   }
   BlitImage(m_image, x, y, w, h, source.m_image, sx, sy, eRop::Copy);

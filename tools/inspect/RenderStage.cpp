@@ -1,0 +1,87 @@
+#include "inspect/RenderStage.h"
+
+#include <charconv>
+
+#include "inspect/Inspector.h"
+#include "inspect/PngFile.h"
+#include "platform/HostPath.h"
+#include "project/Database.h"
+#include "stage/Stage.h"
+#include "ui/stageview/StageView.h"
+#include "ui/surface/CharaBitmaps.h"
+#include "ui/surface/FixedBitmaps.h"
+#include "ui/surface/PaletteBitmaps.h"
+
+namespace velmora::inspect {
+namespace {
+
+struct cCellArea {
+  int x = 0, y = 0, w = 0, h = 0;
+};
+
+bool ParseInt(const std::string& text, int& value) {
+  const char* end = text.data() + text.size();
+  auto [ptr, ec] = std::from_chars(text.data(), end, value);
+  return ec == std::errc() && ptr == end;
+}
+
+// The four numbers after the two paths, or the whole stage without them.
+bool ParseArea(const std::vector<std::string>& args, const cStage& stage, cCellArea& area) {
+  if (args.size() == 3) {
+    area = {0, 0, stage.m_nWidth, stage.m_nHeight};
+    return true;
+  }
+  return args.size() == 7 && ParseInt(args[3], area.x) && ParseInt(args[4], area.y) && ParseInt(args[5], area.w) &&
+         ParseInt(args[6], area.h) && area.w >= 1 && area.h >= 1 && area.w <= kMaxStageSize &&
+         area.h <= kMaxStageSize;
+}
+
+std::vector<cCharaBitmapSource> CharaBitmapSources() {
+  std::vector<cCharaBitmapSource> list;
+  for (const cEdCharaBmp& entry : Database().m_CharaBmp.m_vecEntries) {
+    list.push_back({entry.m_strPath, entry.m_bHuge ? kCellDots * entry.m_iHugeSize : kCellDots});
+  }
+  return list;
+}
+
+// What the stage window draws with; a missing database only costs the
+// animation shifts and own bitmaps, so it is told and passed over.
+bool LoadPictures(std::string& err) {
+  if (!LoadPaletteBitmaps() || !LoadFixedBitmaps("", "")) {
+    err += "velmora-inspect: the project's pictures under bmp\\ can't be loaded\n";
+    return false;
+  }
+  std::string failed;
+  if (!Database().Load(failed)) err += "velmora-inspect: " + failed + " not read; drawn without it\n";
+  LoadCharaBitmaps(CharaBitmapSources(), false);
+  return true;
+}
+
+}  // namespace
+
+int RenderStage(const std::vector<std::string>& args, std::string& err) {
+  cStage stage;
+  if (!stage.LoadFile(StoredPath(args[1]))) {
+    err += ReadFailureText(args[1]);
+    return 1;
+  }
+  cCellArea area;
+  if (!ParseArea(args, stage, area)) {
+    err += "velmora-inspect: the area is x y w h in cells, w and h from 1 to " + std::to_string(kMaxStageSize) + "\n";
+    return 2;
+  }
+  if (!LoadPictures(err)) return 1;
+  cSurface view;
+  if (!view.CreateSurface(area.w * kCellDots, area.h * kCellDots, 32, false)) {
+    err += "velmora-inspect: no memory for the picture\n";
+    return 1;
+  }
+  RenderStageView(stage, view, area.x, area.y, cViewOptions{});
+  if (!WritePng(args[2], view.Image())) {
+    err += "velmora-inspect: cannot write " + args[2] + "\n";
+    return 1;
+  }
+  return 0;
+}
+
+}  // namespace velmora::inspect

@@ -13,6 +13,7 @@
 #include "core/SystemText.h"
 #include "core/WindowPlace.h"
 #include "objects/Palette.h"
+#include "project/Database.h"
 #include "stage/Stage.h"
 #include "stage/StageBrush.h"
 #include "stage/StageEdit.h"
@@ -22,10 +23,10 @@
 #include "ui/framework/Hook.h"
 #include "ui/framework/QtText.h"
 #include "ui/framework/StockDialogs.h"
-#include "ui/palette/EntryPicture.h"
 #include "ui/palette/MoveDialog.h"
 #include "ui/palette/PaletteCommands.h"
 #include "ui/palette/SurfaceImage.h"
+#include "ui/stageview/ObjectDraw.h"
 
 namespace velmora {
 namespace {
@@ -60,6 +61,10 @@ void WithEntry(cPaletteSide side, int index, Fn&& fn) {
   if (side.kind == 1 && at < lists.charas->size()) fn((*lists.charas)[at]);
   if (side.kind == 2 && at < lists.items->size()) fn((*lists.items)[at]);
 }
+
+cObjectLook Look(const cEdBlock& block) { return LookOf(block); }
+cObjectLook Look(const cEdChara& chara) { return LookOf(chara, Database().m_AnimeSet.m_vecEntries); }
+cObjectLook Look(const cEdItem& item) { return LookOf(item); }
 
 }  // namespace
 
@@ -227,7 +232,7 @@ void cPaletteWindow::DrawEntries() {
     for (int column = 0; column < kColumns; ++column) {
       const int index = column + (row + m_iTopRow) * kColumns;
       if (index >= count) return;
-      WithEntry(Side(), index, [&](const auto& entry) { DrawEntry(m_surface, column * kCell, row * kCell, entry); });
+      WithEntry(Side(), index, [&](const auto& entry) { DrawObject(m_surface, column * kCell, row * kCell, Look(entry), false); });
     }
   }
 }

@@ -29,16 +29,6 @@ size_t HeapInUse() {
   return info.uordblks + info.hblkhd;
 }
 
-// Heap growth of three empty layers: the records themselves and what they own.
-double SnapshotBytesPerCell() {
-  const size_t before = HeapInUse();
-  std::vector<cEdBlock> blocks(kCells);
-  std::vector<cEdChara> charas(kCells);
-  std::vector<cEdItem> items(kCells);
-  const size_t grown = HeapInUse() - before;
-  return static_cast<double>(grown) / kCells;
-}
-
 void SetUpStage(int levels) {
   cStage& stage = EditStage();
   stage.InitDefault();
@@ -46,6 +36,18 @@ void SetUpStage(int levels) {
   stage.m_iUndoCount = levels;
   StageHooks().freeMemory = [] { return uint64_t{1} << 40; };
   AllocHistory(levels, stage.m_nPitch, stage.m_nHeight);
+}
+
+// Heap growth of one history level, which holds an undo and a redo snapshot
+// of all three layers: the records themselves and what they own.
+double SnapshotBytesPerCell() {
+  SetUpStage(0);
+  const cStage& stage = EditStage();
+  const size_t before = HeapInUse();
+  AllocHistory(1, stage.m_nPitch, stage.m_nHeight);
+  const size_t grown = HeapInUse() - before;
+  ClearHistory();
+  return static_cast<double>(grown) / (2.0 * kCells);
 }
 
 // One cell in a hundred holds a block, a character and an item.

@@ -4,6 +4,11 @@
 
 namespace velmora {
 
+EditConfig& EditorConfig() {
+  static EditConfig config;
+  return config;
+}
+
 void EditConfig::SetUp() {
   Reset();
   m_strTemplateStage = PathOf(ePath::DefaultStage);

@@ -46,4 +46,7 @@ class EditConfig : public cSaveData {
   void Register(uint32_t version) override;
 };
 
+// The editor's one instance, loaded at start-up and saved on the way out.
+EditConfig& EditorConfig();
+
 }  // namespace velmora

@@ -13,6 +13,7 @@
 #include "platform/Process.h"
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
+#include "stage/StageHistory.h"
 
 namespace velmora {
 namespace {
@@ -57,6 +58,10 @@ bool SaveForGame() {
 }  // namespace
 
 uint32_t cTestPlayHost::Now() { return NowMs(); }
+
+void cTestPlayHost::ClearHistory() { velmora::ClearHistory(); }
+
+void cTestPlayHost::AllocHistory() { RebuildHistory(); }
 
 bool cTestPlayHost::StartGame(const std::string& program, const std::vector<std::string>& args) {
   bool searchPath = false;

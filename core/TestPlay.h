@@ -17,9 +17,9 @@ class cTestPlayHost {
   // Starts `program` (a stored path) with `args` in the project folder.
   virtual bool StartGame(const std::string& program, const std::vector<std::string>& args);
   // Drops the undo history of the edit stage.
-  virtual void ClearHistory() {}
+  virtual void ClearHistory();
   // Builds the undo history of the edit stage anew for its stored depth.
-  virtual void AllocHistory() {}
+  virtual void AllocHistory();
   virtual void RedrawStageWindow() {}
   virtual void ActivateStageWindow() {}
   // Stops the idle drawing while the game has the screen.

@@ -8,6 +8,7 @@
 #include "platform/FileSystem.h"
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
+#include "stage/StageHistory.h"
 
 namespace velmora {
 namespace {
@@ -55,6 +56,7 @@ int CreateNewStage(const std::string& templatePath, int paletteSource, const std
     ErrorBox(SysText("ステージパレットファイル %s が見つかりません！"), palettePath.c_str());
     return 0;
   }
+  ClearHistory();
   if (!ReadTemplate(templatePath)) {
     ErrorBox(SysText("ステージファイル %s が見つかりません！"), templatePath.c_str());
     return 0;
@@ -85,6 +87,7 @@ int CreateNewStage(const std::string& templatePath, int paletteSource, const std
   edit.m_bHasStage = 1;
   edit.m_strPath.clear();
   edit.m_bStageChanged = 0;
+  RebuildHistory();
   return 1;
 }
 

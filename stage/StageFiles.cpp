@@ -13,6 +13,7 @@
 #include "platform/FileSystem.h"
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
+#include "stage/StageHistory.h"
 #include "stage/StageLoader.h"
 
 namespace velmora {
@@ -214,6 +215,7 @@ int OpenStage() {
   }
   ShowProgress("ステージの読み込み", "ステージを読み込んでいます...");
   path = Relative(path);
+  ClearHistory();
   const int loaded = LoadStage(path);
   Prompt().CloseMessageWindow();
   if (!loaded) {
@@ -225,6 +227,7 @@ int OpenStage() {
   edit.m_bHasStage = 1;
   edit.m_strPath = path;
   edit.m_bStageChanged = 0;
+  RebuildHistory();
   return 1;
 }
 
@@ -237,10 +240,11 @@ void OpenLastStage(const std::string& path) {
   if (EditStage().LoadFile(path)) {
     edit.m_bHasStage = 1;
     edit.m_strPath = path;
-    return;
+  } else {
+    EditStage().InitDefault();
+    EditStage().SetSize(32, 32, 0, 0);
   }
-  EditStage().InitDefault();
-  EditStage().SetSize(32, 32, 0, 0);
+  RebuildHistory();
 }
 
 void CloseStage() {
@@ -249,6 +253,7 @@ void CloseStage() {
   edit.m_strPath.clear();
   EditStage().InitDefault();
   edit.m_bStageChanged = 0;
+  RebuildHistory();
 }
 
 int FindLatestVersion(std::string& out, const std::string& base, const std::string& extension) {
@@ -271,6 +276,7 @@ int LoadStagePalette() {
   RefreshCharaFromStage(stage.m_vecCharaCell);
   RefreshItemFromStage(stage.m_vecItemCell);
   StageEdit().m_bStageChanged = 1;
+  RebuildHistory();
   return 1;
 }
 

@@ -135,9 +135,14 @@ void StepBack(cStack from, cStack to) {
   EditStage().RemoveSurplusPlayers();
 }
 
+// A slot cell is only read when a copy made it occupied, and such a copy
+// brings its own inherit flags; leaving them out of the blank keeps an empty
+// slot at the size of the records alone.
 template <class T>
 void AllocSlots(std::vector<std::vector<T>>& slots, int level, size_t cells) {
-  VecAt(slots, level).resize(cells);
+  T blank;
+  std::vector<uint8_t>().swap(blank.m_bbInherit);
+  VecAt(slots, level).assign(cells, blank);
 }
 
 void AllocAllSlots(int levels, size_t cells) {
@@ -197,6 +202,11 @@ void AllocHistory(int levels, int pitch, int height) {
     ClearHistory();
     StopOutOfMemory();
   }
+}
+
+void RebuildHistory() {
+  const cStage& stage = EditStage();
+  AllocHistory(stage.m_iUndoCount, stage.m_nPitch, stage.m_nHeight);
 }
 
 void RecordStep(uint32_t mask) {

@@ -17,6 +17,9 @@ inline uint32_t LayerBit(int layer) { return 1u << layer; }
 void ClearHistory();
 // Lowers the edit stage's level count when free memory is short.
 void AllocHistory(int levels, int pitch, int height);
+// The history for the edit stage as it now stands: after new, open, close
+// and a palette load.
+void RebuildHistory();
 // Estimated bytes of one step of a stage of this size.
 uint64_t EstimateStep(int width, int height);
 void RecordStep(uint32_t mask);

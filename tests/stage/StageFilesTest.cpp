@@ -5,6 +5,7 @@
 
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
+#include "stage/StageHistory.h"
 #include "support/ScriptedPrompt.h"
 #include "support/TempProject.h"
 
@@ -123,6 +124,25 @@ TEST_F(cStageFilesTest, StartUpOpensTheLastStageOrAnEmptyOne) {
   OpenLastStage(".\\data\\stg4\\gone.stg4_950");
   EXPECT_EQ(0, StageEdit().m_bHasStage);
   EXPECT_EQ(32, EditStage().m_nWidth);
+}
+
+// Every way of getting a stage builds its history for the stage's own
+// level count, so the first stroke after it can be undone.
+TEST_F(cStageFilesTest, OpenCloseAndNewLeaveAHistoryOfTheStagesDepth) {
+  EditStage().m_iUndoCount = 2;
+  EditStage().m_vecBlockCell[0].m_nGraphicNo = 1;
+  StageEdit().m_bStageChanged = 1;
+  ASSERT_EQ(1, SaveStage(1));
+  m_prompt.QueuePath(kStored);
+  ASSERT_EQ(1, OpenStage());
+  EXPECT_EQ(2u, StageEdit().m_vecUndoBlock.size());
+  RecordStep(kLayerAll);
+  EXPECT_TRUE(CanUndo());
+  CloseStage();
+  EXPECT_FALSE(CanUndo());
+  EXPECT_EQ(static_cast<size_t>(EditStage().m_iUndoCount), StageEdit().m_vecUndoBlock.size());
+  OpenLastStage(".\\data\\stg4\\a.stg4_950");
+  EXPECT_EQ(2u, StageEdit().m_vecRedoItem.size());
 }
 
 TEST_F(cStageFilesTest, NewStageReadsTheNewestTemplateAndItsPaletteSource) {

@@ -1,6 +1,7 @@
 #include "ui/controls/ScrollBar.h"
 
 #include <QMouseEvent>
+#include <algorithm>
 
 #include "ui/framework/Dialog.h"
 
@@ -33,8 +34,21 @@ cScrollBar::~cScrollBar() {
   if (Widget()) delete m_pRightFilter;
 }
 
-void cScrollBar::SetRange(int minimum, int maximum) { m_pBar->setRange(minimum, maximum); }
+void cScrollBar::SetRange(int minimum, int maximum) {
+  m_nMinimum = minimum;
+  m_nMaximum = maximum;
+  Apply();
+}
 
-void cScrollBar::SetPage(int page) { m_pBar->setPageStep(page); }
+void cScrollBar::SetPage(int page) {
+  m_nPage = page;
+  Apply();
+}
+
+void cScrollBar::Apply() {
+  const int top = std::max(m_nMinimum, m_nMaximum - std::max(m_nPage, 1) + 1);
+  m_pBar->setRange(m_nMinimum, top);
+  m_pBar->setPageStep(std::max(m_nPage, 1));
+}
 
 }  // namespace velmora

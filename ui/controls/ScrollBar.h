@@ -13,13 +13,20 @@ class cScrollBar : public cControl {
   cScrollBar(cDialog& parent, QScrollBar* bar, int id);
   ~cScrollBar() override;
   QScrollBar* Bar() const { return m_pBar; }
+  // Range and page as the window states them: the range covers the whole
+  // content, and the highest position leaves a full page in view.
   void SetRange(int minimum, int maximum);
   void SetPage(int page);
   int Position() const { return m_pBar->value(); }
   void SetPosition(int position) { m_pBar->setValue(position); }
 
  private:
+  void Apply();
+
   QScrollBar* m_pBar;
+  int m_nMinimum = 0;
+  int m_nMaximum = 0;
+  int m_nPage = 0;
   QObject* m_pRightFilter;
 };
 

@@ -50,6 +50,9 @@ class cDialog {
 
   // The virtual operations, in the order the family has always had them.
   virtual void Idle() {}
+  // True while the window needs Idle at the frame rate; the main loop
+  // waits for events whenever no window does.
+  virtual bool WantsIdle() const { return false; }
   virtual void OnCommand(uint32_t wParam, intptr_t lParam);
   virtual void OnMouseMove() {}
   virtual void OnLButtonDown() {}
@@ -65,6 +68,8 @@ class cDialog {
   virtual void RedrawLists();
   virtual void OnPaint(QPainter& /*painter*/) {}
   virtual void OnInitDialog();
+  // The client area took a new size; the geometry is already updated.
+  virtual void OnSize() {}
 
   // Opening and closing.
   bool Create(int flags, bool show);
@@ -103,6 +108,7 @@ class cDialog {
   // All events of the window come through here, in the common order.
   bool HandleEvent(QEvent& event);
   void HandleClientMouse(QMouseEvent& event);
+  void HandleClientResize();
 
   // Keyboard.
   void SetAccel(int focusId, cAccelTable table);
@@ -120,6 +126,9 @@ class cDialog {
   void SetToolImages(const QPixmap& strip, int imageWidth);
   void SetToolButtonState(int command, bool enabled, bool checked);
   void SetStatusText(int part, const std::string& cp932);
+  // The menu bar, built from its table; entries send their commands.
+  void SetMenuBar(const std::vector<cMenuPopup>& popups);
+  void SetMenuState(int command, bool enabled, bool checked);
   void ShowPopup(const std::vector<cMenuItem>& menu);
   cScrollBar* HorzBar() const { return m_pHorzBar; }
   cScrollBar* VertBar() const { return m_pVertBar; }

@@ -150,6 +150,11 @@ void cDialog::HandleClientMouse(QMouseEvent& event) {
   }
 }
 
+void cDialog::HandleClientResize() {
+  UpdateGeometry();
+  OnSize();
+}
+
 bool cDialog::RightClicked() {
   if (!m_bSetUp) return false;
   if (!m_bRightLatch) {

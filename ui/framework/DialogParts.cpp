@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPixmap>
 #include <QStatusBar>
 #include <QToolBar>
@@ -79,6 +80,44 @@ void cDialog::SetToolButtonState(int command, bool enabled, bool checked) {
 void cDialog::SetStatusText(int part, const std::string& cp932) {
   // Status parts are kept under negative ids beside the controls.
   if (auto* label = qobject_cast<QLabel*>(Item(-1 - part))) label->setText(FromCp932(cp932));
+}
+
+void cDialog::SetMenuBar(const std::vector<cMenuPopup>& popups) {
+  if (!m_pWindow) return;
+  QMenuBar* bar = m_pWindow->MenuBar();
+  bar->clear();
+  for (const cMenuPopup& popup : popups) {
+    QMenu* menu = bar->addMenu(Ui(popup.title));
+    for (const cMenuItem& item : popup.items) {
+      if (item.command == 0) {
+        menu->addSeparator();
+        continue;
+      }
+      // The text carries its accelerator behind a tab, which the menu shows
+      // at the right; the keys themselves belong to the accelerator table.
+      QAction* action = menu->addAction(Ui(item.text));
+      action->setData(item.command);
+      action->setEnabled(item.enabled);
+      action->setCheckable(item.checkable);
+      action->setChecked(item.checked);
+      const int command = item.command;
+      QObject::connect(action, &QAction::triggered, bar, [this, command] {
+        SendCommand(MakeCommand(command, kNoticeClicked), 0);
+      });
+    }
+  }
+}
+
+void cDialog::SetMenuState(int command, bool enabled, bool checked) {
+  if (!m_pWindow || !m_pWindow->HasMenuBar()) return;
+  for (QAction* top : m_pWindow->MenuBar()->actions()) {
+    if (!top->menu()) continue;
+    for (QAction* action : top->menu()->actions()) {
+      if (action->isSeparator() || action->data().toInt() != command) continue;
+      action->setEnabled(enabled);
+      if (action->isCheckable()) action->setChecked(checked);
+    }
+  }
 }
 
 void cDialog::ShowPopup(const std::vector<cMenuItem>& menu) {

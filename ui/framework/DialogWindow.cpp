@@ -1,6 +1,7 @@
 #include "ui/framework/DialogWindow.h"
 
 #include <QGridLayout>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStatusBar>
@@ -29,6 +30,10 @@ void cClientArea::mouseReleaseEvent(QMouseEvent* event) { Mouse(*event); }
 void cClientArea::mouseDoubleClickEvent(QMouseEvent* event) { Mouse(*event); }
 void cClientArea::mouseMoveEvent(QMouseEvent* event) { Mouse(*event); }
 
+void cClientArea::resizeEvent(QResizeEvent*) {
+  if (m_window.Dialog()) m_window.Dialog()->HandleClientResize();
+}
+
 cDialogWindow::cDialogWindow(cDialog& dialog, QWidget* parent, bool asPage)
     : QDialog(parent, asPage ? Qt::Widget : Qt::Dialog), m_pDialog(&dialog) {
   auto* frame = new QVBoxLayout(this);
@@ -53,6 +58,14 @@ QToolBar* cDialogWindow::ToolBar() {
     static_cast<QVBoxLayout*>(layout())->insertWidget(0, m_pToolBar);
   }
   return m_pToolBar;
+}
+
+QMenuBar* cDialogWindow::MenuBar() {
+  if (!m_pMenuBar) {
+    m_pMenuBar = new QMenuBar(this);
+    layout()->setMenuBar(m_pMenuBar);
+  }
+  return m_pMenuBar;
 }
 
 QStatusBar* cDialogWindow::StatusBar() {

@@ -4,6 +4,7 @@
 #include "ui/framework/ItemMap.h"
 
 class QGridLayout;
+class QMenuBar;
 class QStatusBar;
 class QToolBar;
 
@@ -24,6 +25,7 @@ class cClientArea : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void Mouse(QMouseEvent& event);
@@ -44,6 +46,8 @@ class cDialogWindow : public QDialog {
   cClientArea* Client() const { return m_pClient; }
   QGridLayout* Body() const { return m_pBody; }
   QToolBar* ToolBar();
+  QMenuBar* MenuBar();
+  bool HasMenuBar() const { return m_pMenuBar != nullptr; }
   QStatusBar* StatusBar();
   bool HasToolBar() const { return m_pToolBar != nullptr; }
   bool HasStatusBar() const { return m_pStatusBar != nullptr; }
@@ -58,6 +62,7 @@ class cDialogWindow : public QDialog {
   cClientArea* m_pClient;
   QGridLayout* m_pBody;
   QToolBar* m_pToolBar = nullptr;
+  QMenuBar* m_pMenuBar = nullptr;
   QStatusBar* m_pStatusBar = nullptr;
   cItemMap m_items;
 };

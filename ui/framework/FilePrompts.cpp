@@ -34,10 +34,13 @@ QString HostDir(const std::string& stored) {
   return stored.empty() ? QString() : QFile::decodeName(QByteArray::fromStdString(HostPath(stored)));
 }
 
-// A chosen host path as the stored path that records keep; false when it
-// doesn't fit the room of a path.
+// A chosen host path as the stored path that records keep: relative to the
+// project folder when it lies inside it, since the project is the current
+// directory and moves as a whole. False when it doesn't fit a path's room.
 bool ToStored(const QString& host, std::string& stored) {
-  std::string candidate = StoredPath(QFile::encodeName(host).toStdString());
+  const QString relative = QDir::current().relativeFilePath(host);
+  const bool inside = !relative.startsWith(QStringLiteral("..")) && !QDir::isAbsolutePath(relative);
+  std::string candidate = StoredPath(QFile::encodeName(inside ? relative : host).toStdString());
   if (candidate.size() >= kPathRoom) return false;
   stored = std::move(candidate);
   return true;

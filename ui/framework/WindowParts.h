@@ -1,4 +1,5 @@
 #pragma once
+#include <vector>
 
 namespace velmora {
 
@@ -17,6 +18,13 @@ struct cMenuItem {
   const char* text = "";
   bool enabled = true;
   bool checked = false;
+  bool checkable = false;  // a menu bar entry that shows a check mark
+};
+
+// One drop-down menu of a window's menu bar; its title is UTF-8 too.
+struct cMenuPopup {
+  const char* title = "";
+  std::vector<cMenuItem> items;
 };
 
 }  // namespace velmora

@@ -1,0 +1,258 @@
+#include "ui/stage/StageWindow.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPixmap>
+#include <QStyle>
+#include <QToolBar>
+#include <algorithm>
+
+#include "core/EditConfig.h"
+#include "core/ProjectPaths.h"
+#include "core/SaveData.h"
+#include "core/SystemText.h"
+#include "platform/HostPath.h"
+#include "stage/StageEdit.h"
+#include "ui/controls/ScrollBar.h"
+#include "ui/framework/Commands.h"
+#include "ui/framework/DialogWindow.h"
+#include "ui/framework/QtText.h"
+#include "ui/stage/NewStageDialog.h"
+
+namespace velmora {
+namespace {
+
+constexpr int kDefaultX = 50;
+constexpr int kDefaultY = 50;
+constexpr int kMinClientWidth = 384;
+constexpr int kMinClientHeight = 160;
+constexpr int kMaxClientWidth = 640;
+constexpr int kMaxClientHeight = 480;
+constexpr int kStatusCoordinatePart = 0;
+constexpr int kStatusPartWidth = 255;
+constexpr int kToolImage = 16;
+
+const char* const kToolStrips[] = {"e_bmp\\ToolBar_Palette.bmp", "e_bmp\\ToolBar_TestPlay.bmp"};
+constexpr int kToolStripImages[] = {3, 2};
+
+// The platform's own pictures for new, open, save, undo and redo.
+constexpr QStyle::StandardPixmap kStandardImages[kStandardToolImages] = {
+    QStyle::SP_FileIcon, QStyle::SP_DialogOpenButton, QStyle::SP_DialogSaveButton, QStyle::SP_ArrowBack,
+    QStyle::SP_ArrowForward};
+
+cWindowPlace& StagePlace() { return EditorConfig().m_aPlace[EditConfig::PlaceStageEditor]; }
+
+}  // namespace
+
+cStageWindow::cStageWindow(cDialogManager& manager, QWidget* parent, cStageWindowHost& host)
+    : cDialog(manager, parent), m_host(host) {
+  SetLogName("stage");
+  WantScrollBars();
+  WantToolBar();
+  WantStatusBar({kStatusPartWidth});
+  m_form.okCancel = false;
+  InstallBuiltInHandlers();
+}
+
+cStageWindow::~cStageWindow() { StorePlace(); }
+
+bool cStageWindow::Open() {
+  if (!Create(0, false)) return false;
+  Window()->setWindowFlags(Qt::Window | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+  PlaceWindow();
+  Window()->show();
+  return true;
+}
+
+void cStageWindow::OnInitDialog() {
+  cDialog::OnInitDialog();
+  RefreshTitle();
+  SetStatusText(kStatusCoordinatePart, "");
+  SetMenuBar(StageMenu());
+  BuildToolBar();
+  UpdateStates();
+  UpdateScrollRanges();
+  const cCellPos start = StageEdit().m_bHasStage ? InitialScroll(EditStage()) : cCellPos{0, 0};
+  ScrollTo(start.x, start.y);
+  SetAccel(0, StageAccelerators());
+  if (onLayerChanged) onLayerChanged(StageEdit().m_iLayer);
+}
+
+void cStageWindow::BuildToolBar() {
+  QPixmap strip(kToolImage * (kStandardToolImages + 5), kToolImage);
+  strip.fill(Qt::transparent);
+  QPainter painter(&strip);
+  QStyle* style = QApplication::style();
+  for (int i = 0; i < kStandardToolImages; ++i) {
+    painter.drawPixmap(i * kToolImage, 0, style->standardIcon(kStandardImages[i]).pixmap(kToolImage, kToolImage));
+  }
+  int at = kStandardToolImages * kToolImage;
+  for (size_t s = 0; s < std::size(kToolStrips); ++s) {
+    const QImage images(QString::fromStdString(HostPath(kToolStrips[s])));
+    if (!images.isNull()) painter.drawImage(at, 0, images, 0, 0, kToolStripImages[s] * kToolImage, kToolImage);
+    at += kToolStripImages[s] * kToolImage;
+  }
+  painter.end();
+  SetToolImages(strip, kToolImage);
+  const std::vector<cToolButton>& buttons = StageToolButtons();
+  AddToolButtons(buttons.data(), static_cast<int>(buttons.size()));
+}
+
+// ---- geometry ----
+
+void cStageWindow::PlaceWindow() {
+  auto* window = static_cast<cDialogWindow*>(Window());
+  const cWindowPlace& place = StagePlace();
+  const bool stored = place.m_bStored && place.m_nWidth > 0 && place.m_nHeight > 0;
+  const int width = std::clamp(stored ? place.m_nWidth : kMaxClientWidth, kMinClientWidth, kMaxClientWidth);
+  const int height = std::clamp(stored ? place.m_nHeight : kMaxClientHeight, kMinClientHeight, kMaxClientHeight);
+  QWidget* client = window->Client();
+  // The window is sized around its client: tool, menu and status bars and
+  // the scroll bars come on top of the drawing area.
+  client->setFixedSize(width, height);
+  window->adjustSize();
+  client->setMinimumSize(kMinClientWidth, kMinClientHeight);
+  client->setMaximumSize(kMaxClientWidth, kMaxClientHeight);
+  window->move(stored ? place.m_nX : kDefaultX, stored ? place.m_nY : kDefaultY);
+}
+
+void cStageWindow::StorePlace() {
+  auto* window = static_cast<cDialogWindow*>(Window());
+  if (!window) return;
+  cWindowPlace& place = StagePlace();
+  place.m_bStored = 1;
+  place.m_nX = window->x();
+  place.m_nY = window->y();
+  place.m_nWidth = window->Client()->width();
+  place.m_nHeight = window->Client()->height();
+  EditorConfig().SaveFile(PathOf(ePath::EditConfig));
+}
+
+cViewFrame cStageWindow::Frame() const {
+  const cGeometry& geometry = Geometry();
+  const cStage& stage = EditStage();
+  return {geometry.clientWidth, geometry.clientHeight, ScrollX(), ScrollY(), stage.m_nWidth, stage.m_nHeight};
+}
+
+int cStageWindow::ScrollX() const { return HorzBar() ? HorzBar()->Position() : 0; }
+
+int cStageWindow::ScrollY() const { return VertBar() ? VertBar()->Position() : 0; }
+
+void cStageWindow::ScrollTo(int x, int y) {
+  if (HorzBar()) HorzBar()->SetPosition(x);
+  if (VertBar()) VertBar()->SetPosition(y);
+}
+
+void cStageWindow::UpdateScrollRanges() {
+  if (!Window()) return;
+  const QWidget* client = static_cast<cDialogWindow*>(Window())->Client();
+  const cBarRange horz = HorzBarRange(EditStage().m_nWidth, client->width());
+  const cBarRange vert = VertBarRange(EditStage().m_nHeight, client->height());
+  HorzBar()->SetRange(0, horz.maximum);
+  HorzBar()->SetPage(horz.page);
+  VertBar()->SetRange(0, vert.maximum);
+  VertBar()->SetPage(vert.page);
+}
+
+// ---- commands ----
+
+void cStageWindow::SetHandler(eStageAction action, cHandler handler) {
+  if (handler) m_handlers[action] = std::move(handler);
+  else m_handlers.erase(action);
+  UpdateStates();
+}
+
+bool cStageWindow::IsEnabled(const cStageCommand& command) const {
+  if (!HasHandler(command.action)) return false;
+  return command.withoutStage || StageEdit().m_bHasStage;
+}
+
+void cStageWindow::UpdateStates() {
+  if (!IsOpen()) return;
+  const cStageEdit& edit = StageEdit();
+  for (const cStageCommand& command : StageCommands()) {
+    bool enabled = IsEnabled(command);
+    if (command.action == eStageAction::Undo) enabled = enabled && edit.m_iUndoNum >= 1;
+    if (command.action == eStageAction::Redo) enabled = enabled && edit.m_iRedoNum >= 1;
+    const int layer = static_cast<int>(command.action) - static_cast<int>(eStageAction::LayerBlock);
+    const bool checked = layer >= 0 && layer < 3 && edit.m_iLayer == layer;
+    for (int id : command.ids) {
+      if (id == 0) continue;
+      SetMenuState(id, enabled, checked);
+      SetToolButtonState(id, enabled, checked);
+    }
+  }
+}
+
+void cStageWindow::RefreshTitle() {
+  if (IsOpen()) Window()->setWindowTitle(FromCp932(StageWindowTitle(StageEdit().m_strPath)));
+}
+
+void cStageWindow::OnCommand(uint32_t wParam, intptr_t /*lParam*/) {
+  const int id = CommandId(wParam);
+  if (id == kIdCancel) return;  // Escape; only the close box closes this window
+  const cStageCommand* command = FindStageCommand(id);
+  if (!command || !IsEnabled(*command)) return;
+  if (command->needsStage && !StageEdit().m_bHasStage) return;
+  // The handler may end with a rebuild that deletes this window.
+  const cHandler handler = m_handlers[command->action];
+  handler();
+}
+
+void cStageWindow::AfterStageChange() {
+  UpdateStates();
+  m_host.RequestRebuild();
+}
+
+void cStageWindow::SetLayer(int layer) {
+  StageEdit().m_iLayer = layer;
+  StageEdit().m_iReturnLayer = layer;
+  UpdateStates();
+  if (onLayerChanged) onLayerChanged(layer);
+  Repaint();
+}
+
+void cStageWindow::InstallBuiltInHandlers() {
+  using A = eStageAction;
+  m_handlers[A::New] = [this] {
+    cNewStageDialog dialog(Manager(), Window());
+    if (dialog.DoModal(kDisableOthers) == 1) AfterStageChange();
+  };
+  m_handlers[A::Open] = [this] {
+    if (OpenStage()) AfterStageChange();
+  };
+  m_handlers[A::Close] = [this] {
+    CloseStage();
+    AfterStageChange();
+  };
+  m_handlers[A::Save] = [this] {
+    SaveCommonPalette();
+    SaveStage(1);
+    RefreshTitle();
+  };
+  m_handlers[A::SaveAs] = [this] {
+    SaveCommonPalette();
+    SaveStage(0);
+    RefreshTitle();
+  };
+  m_handlers[A::SaveCommon] = [] { SaveCommonPalette(); };
+  m_handlers[A::LoadStagePalette] = [this] {
+    if (!LoadStagePalette()) return;
+    StageEdit().m_bStageChanged = 1;
+    AfterStageChange();
+  };
+  m_handlers[A::SaveStagePalette] = [] { SaveStagePalette(); };
+  m_handlers[A::LayerBlock] = [this] { SetLayer(0); };
+  m_handlers[A::LayerChara] = [this] { SetLayer(1); };
+  m_handlers[A::LayerItem] = [this] { SetLayer(2); };
+}
+
+// ---- closing ----
+
+void cStageWindow::OnCloseBox() {
+  if (AskSaveBeforeExit() != 1) return;
+  m_host.CloseEditor();
+}
+
+}  // namespace velmora

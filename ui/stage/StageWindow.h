@@ -1,0 +1,107 @@
+#pragma once
+#include <functional>
+#include <map>
+
+#include "stage/Stage.h"
+#include "ui/framework/Dialog.h"
+#include "ui/stage/StageCommands.h"
+#include "ui/stage/StageViewRules.h"
+#include "ui/surface/Surface.h"
+
+namespace velmora {
+
+// What the stage window asks of the application around it.
+class cStageWindowHost {
+ public:
+  virtual ~cStageWindowHost() = default;
+  // Message 1024 with 1: a different stage came in; throw the window away
+  // and build it anew.
+  virtual void RequestRebuild() = 0;
+  // The author closed the window and agreed to leave.
+  virtual void CloseEditor() = 0;
+};
+
+// A mouse event of the stage view as the editing tools take it.
+struct cStageMouse {
+  enum eKind { Down, Move, Up, DoubleClick };
+  eKind kind = Move;
+  bool right = false;  // the button of a down, up or double click
+  bool leftHeld = false;
+  bool rightHeld = false;
+  bool shift = false;
+  cCellPos cell;
+};
+
+// The editor's central window: the edit stage through a 32-dot grid, with
+// the menu, tool bar and status bar from which every other window opens.
+// It is thrown away and built anew whenever a different stage comes in.
+class cStageWindow : public cDialog {
+ public:
+  using cHandler = std::function<void()>;
+
+  cStageWindow(cDialogManager& manager, QWidget* parent, cStageWindowHost& host);
+  ~cStageWindow() override;
+
+  // Opens the window where the editor settings last had it.
+  bool Open();
+
+  // Windows of later work hook in here: an action with a handler is
+  // enabled by the state rules, one without stays disabled.
+  void SetHandler(eStageAction action, cHandler handler);
+  bool HasHandler(eStageAction action) const { return m_handlers.count(action) != 0; }
+  // Runs after each change of the current layer, for the palette windows.
+  std::function<void(int layer)> onLayerChanged;
+
+  void UpdateStates();
+  void RefreshTitle();
+  void Repaint();
+  int ScrollX() const;
+  int ScrollY() const;
+  void ScrollTo(int x, int y);
+  const cCellPos& Cursor() const { return m_cursor; }
+  // The last painted view, for tests and measurements.
+  const cSurface& View() const { return m_view; }
+  // Paints the view into the off-screen surface without showing it.
+  void RenderView();
+
+  void Idle() override;
+  bool WantsIdle() const override;
+  void OnPaint(QPainter& painter) override;
+  void OnInitDialog() override;
+  void OnSize() override;
+
+ protected:
+  void OnCommand(uint32_t wParam, intptr_t lParam) override;
+  bool OnDialogMessage(QEvent& event) override;
+  void OnMouseMove() override;
+  void OnLButtonDown() override;
+  void OnRButtonDown() override;
+  void OnLButtonUp() override;
+  void OnRButtonUp() override;
+  void OnLButtonDblClk() override;
+  void OnRButtonDblClk() override;
+
+ private:
+  void InstallBuiltInHandlers();
+  void BuildToolBar();
+  void PlaceWindow();
+  void StorePlace();
+  void UpdateScrollRanges();
+  cViewFrame Frame() const;
+  void Mouse(cStageMouse::eKind kind, bool right);
+  void FeedTools(const cStageMouse& event);
+  bool OnKey(int key, bool ctrl);
+  void OnWheel(int delta, bool ctrl);
+  void OnCloseBox();
+  void AfterStageChange();
+  void SetLayer(int layer);
+  bool IsEnabled(const cStageCommand& command) const;
+
+  cStageWindowHost& m_host;
+  std::map<eStageAction, cHandler> m_handlers;
+  cSurface m_view;
+  cCellPos m_cursor{0, 0};
+  bool m_bOutsideDrag = false;
+};
+
+}  // namespace velmora

@@ -1,0 +1,115 @@
+#include <QGuiApplication>
+#include <QWheelEvent>
+
+#include "stage/StageEdit.h"
+#include "ui/framework/Commands.h"
+#include "ui/framework/DialogWindow.h"
+#include "ui/framework/Hook.h"
+#include "ui/framework/IdleWake.h"
+#include "ui/stage/StageWindow.h"
+
+// The stage window's mouse, keys and wheel: positions become cells, and
+// events go to the editing tools.
+
+namespace velmora {
+namespace {
+
+bool ShiftHeld() { return QGuiApplication::keyboardModifiers() & Qt::ShiftModifier; }
+
+}  // namespace
+
+void cStageWindow::OnMouseMove() { Mouse(cStageMouse::Move, false); }
+void cStageWindow::OnLButtonDown() { Mouse(cStageMouse::Down, false); }
+void cStageWindow::OnRButtonDown() { Mouse(cStageMouse::Down, true); }
+void cStageWindow::OnLButtonUp() { Mouse(cStageMouse::Up, false); }
+void cStageWindow::OnRButtonUp() { Mouse(cStageMouse::Up, true); }
+void cStageWindow::OnLButtonDblClk() { Mouse(cStageMouse::DoubleClick, false); }
+void cStageWindow::OnRButtonDblClk() { Mouse(cStageMouse::DoubleClick, true); }
+
+void cStageWindow::Mouse(cStageMouse::eKind kind, bool right) {
+  if (!StageEdit().m_bHasStage) return;
+  const cMouseState& mouse = cDialog::Mouse();
+  m_cursor = CellAt(Frame(), mouse.x, mouse.y, m_cursor);
+  if (kind == cStageMouse::Down && !right) StageEdit().m_bStageChanged = 1;
+  FeedTools({kind, right, mouse.leftHeld, mouse.rightHeld, ShiftHeld(), m_cursor});
+  if (kind == cStageMouse::Down && Item(kIdPlaceholder)) {
+    Window()->activateWindow();
+    Item(kIdPlaceholder)->setFocus();
+  }
+  const cGeometry& geometry = Geometry();
+  const bool outside = mouse.x < 0 || mouse.y < 0 || mouse.x >= geometry.clientWidth || mouse.y >= geometry.clientHeight;
+  const bool held = mouse.leftHeld || mouse.rightHeld;
+  if (outside && held && kind == cStageMouse::Move) EdgeScroll();
+  const bool wasOutside = m_bOutsideDrag;
+  m_bOutsideDrag = outside && held && StageEdit().m_bDrag;
+  if (m_bOutsideDrag && !wasOutside) WakeIdle();
+  Repaint();
+}
+
+bool cStageWindow::WantsIdle() const { return m_bOutsideDrag; }
+
+// A drag that left the client area goes on growing while the mouse rests
+// out there, and the view scrolls towards it.
+void cStageWindow::Idle() {
+  if (!m_bOutsideDrag || !IsOpen()) return;
+  const bool leftBefore = cDialog::Mouse().leftHeld;
+  ReadMouse(true);
+  const cMouseState& mouse = cDialog::Mouse();
+  m_cursor = CellAt(Frame(), mouse.x, mouse.y, m_cursor);
+  if (!mouse.leftHeld && !mouse.rightHeld) {
+    m_bOutsideDrag = false;
+    FeedTools({cStageMouse::Up, !leftBefore, false, false, ShiftHeld(), m_cursor});
+  } else {
+    FeedTools({cStageMouse::Move, false, mouse.leftHeld, mouse.rightHeld, ShiftHeld(), m_cursor});
+    EdgeScroll();
+    m_bOutsideDrag = StageEdit().m_bDrag != 0;
+  }
+  Repaint();
+}
+
+bool cStageWindow::OnDialogMessage(QEvent& event) {
+  switch (event.type()) {
+    case QEvent::Close:
+      event.ignore();
+      OnCloseBox();
+      return true;
+    case QEvent::Wheel: {
+      const auto& wheel = static_cast<const QWheelEvent&>(event);
+      const QPoint delta = wheel.angleDelta();
+      OnWheel(delta.y() != 0 ? delta.y() : delta.x(), wheel.modifiers() & Qt::ControlModifier);
+      return true;
+    }
+    default: break;
+  }
+  if (event.type() != cHookKeyEvent::EventType()) return false;
+  const auto& key = static_cast<const cHookKeyEvent&>(event);
+  if (key.Kind() == cHookKeyEvent::KeyUp) return false;
+  return OnKey(key.Key(), key.Modifiers() & Qt::ControlModifier);
+}
+
+void cStageWindow::OnWheel(int delta, bool ctrl) {
+  const int cells = WheelCells(delta);
+  if (WheelScrollsVertically(EditStage().m_iWheelDir, ctrl)) ScrollTo(ScrollX(), ScrollY() + cells);
+  else ScrollTo(ScrollX() + cells, ScrollY());
+}
+
+// F5 and F7 reach the test play through accelerator table 105, which this
+// window holds; sending them here as well would start a second play.
+bool cStageWindow::OnKey(int key, bool ctrl) {
+  if (ctrl || !StageEdit().m_bHasStage) return false;
+  if (key == Qt::Key_Space) {
+    SetLayer((StageEdit().m_iLayer + 1) % 3);
+    return true;
+  }
+  return false;
+}
+
+void cStageWindow::OnSize() {
+  if (!HorzBar()) return;
+  UpdateScrollRanges();
+  Repaint();
+}
+
+void cStageWindow::FeedTools(const cStageMouse& /*event*/) {}
+
+}  // namespace velmora

@@ -1,0 +1,45 @@
+#include <QImage>
+#include <QPainter>
+#include <cstdio>
+
+#include "core/SystemText.h"
+#include "stage/StageEdit.h"
+#include "ui/framework/DialogWindow.h"
+#include "ui/stage/StageWindow.h"
+
+// Painting: the view is drawn from the records into an off-screen surface
+// of the client's size, which then goes to the window in one copy.
+
+namespace velmora {
+namespace {
+
+constexpr cColourRef kBlack = 0x000000;
+constexpr cColourRef kGridColour = 0xFFFFFF;
+
+}  // namespace
+
+void cStageWindow::RenderView() {
+  const cGeometry& geometry = Geometry();
+  const int width = std::max(geometry.clientWidth, 1);
+  const int height = std::max(geometry.clientHeight, 1);
+  if (m_view.Width() != width || m_view.Height() != height) m_view.CreateSurface(width, height, 32, false);
+  m_view.Fill(kBlack);
+  if (!StageEdit().m_bHasStage) return;
+  m_view.Grid(0, 0, width, height, kCellDots, kCellDots, kGridColour);
+}
+
+void cStageWindow::OnPaint(QPainter& painter) {
+  RenderView();
+  const cPixelImage& image = m_view.Image();
+  const QImage frame(image.Row(0), image.Width(), image.Height(), image.Stride(), QImage::Format_RGB32);
+  painter.drawImage(0, 0, frame);
+  char status[64];
+  std::snprintf(status, sizeof status, SysText("座標 (%d,%d)"), m_cursor.x, m_cursor.y);
+  SetStatusText(0, status);
+}
+
+void cStageWindow::Repaint() {
+  if (IsOpen()) static_cast<cDialogWindow*>(Window())->Client()->update();
+}
+
+}  // namespace velmora

@@ -57,7 +57,11 @@ class PaletteWindowTest : public ::testing::Test {
     InstallPaletteLists(ePalette::Common, CommonPalette().Lists());
     links.stageCommand = [this](int command) { stageCommands.push_back(command); };
     links.nextLayer = [this] { ++layerSwitches; };
-    links.paletteChanged = [this] { ++stageRepaints; };
+    // The stage window repaints, and the palette windows with it.
+    links.paletteChanged = [this] {
+      ++stageRepaints;
+      windows->Refresh();
+    };
   }
   void TearDown() override { InstallPaletteLists(ePalette::Common, {}); }
 

@@ -11,6 +11,9 @@ namespace {
 // Places in the editor settings, by palette (common, stage) and kind.
 constexpr std::array<std::array<int, 3>, 2> kPlaceOf = {{{1, 3, 5}, {2, 4, 6}}};
 constexpr int kGroupPlace = 7;
+// The place whose flag each visibility setting is kept in; the others of
+// its pair follow when the settings are saved.
+constexpr std::array<int, 3> kShownPlace = {1, 2, kGroupPlace};
 constexpr int kCharaLayer = 1;
 
 int SlotOf(cPaletteSide side) { return (side.stagePlt ? 3 : 0) + side.kind; }
@@ -30,9 +33,10 @@ cPaletteWindows::cPaletteWindows(cDialogManager& manager, QWidget* stageWindow, 
                                  const cPaletteLinks& links)
     : m_config(config), m_links(links) {
   cPaletteLinks own = links;
+  // A stage window that repaints refreshes these windows with it.
   own.paletteChanged = [this] {
     if (m_links.paletteChanged) m_links.paletteChanged();
-    Refresh();
+    else Refresh();
   };
   for (const cPaletteSide side : kCreationOrder) {
     cWindowPlace& place = m_config.m_aPlace.at(static_cast<size_t>(kPlaceOf[side.stagePlt][side.kind]));
@@ -61,6 +65,18 @@ bool cPaletteWindows::Create(const QRect& stageFrame) {
   return true;
 }
 
+bool cPaletteWindows::IsShown(eShown which) const {
+  return m_config.m_aPlace.at(static_cast<size_t>(kShownPlace.at(which))).m_bVisible != 0;
+}
+
+void cPaletteWindows::ToggleShown(eShown which, int layer) {
+  int32_t& visible = m_config.m_aPlace.at(static_cast<size_t>(kShownPlace.at(which))).m_bVisible;
+  visible = !visible;
+  m_config.SharePairedVisibility();
+  m_config.SaveFile(PathOf(ePath::EditConfig));
+  ShowLayer(layer);
+}
+
 cPaletteWindow& cPaletteWindows::Palette(cPaletteSide side) { return *m_aPalette.at(static_cast<size_t>(SlotOf(side))); }
 
 void cPaletteWindows::ShowLayer(int layer) {
@@ -69,7 +85,6 @@ void cPaletteWindows::ShowLayer(int layer) {
     ShowIf(Palette(side).Window(), side.kind == layer && visible);
   }
   ShowIf(m_pGroupWnd->Window(), layer == kCharaLayer && m_config.m_aPlace.at(kGroupPlace).m_bVisible);
-  Refresh();
 }
 
 void cPaletteWindows::Refresh() {

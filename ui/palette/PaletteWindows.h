@@ -14,7 +14,8 @@ class EditConfig;
 // They live as long as it does, hidden while their layer isn't current.
 class cPaletteWindows {
  public:
-  // `links.paletteChanged` is for the stage window: it repaints.
+  // `links.paletteChanged` is for the stage window: it repaints, and
+  // calls Refresh.
   cPaletteWindows(cDialogManager& manager, QWidget* stageWindow, EditConfig& config, const cPaletteLinks& links);
   // Keeps every window's place in the editor settings and saves them.
   ~cPaletteWindows();
@@ -31,6 +32,12 @@ class cPaletteWindows {
   void Refresh();
   // The repaint of each idle step, in its fixed order.
   void IdleRepaint();
+
+  // The visibility settings of the common palettes, the stage palettes and
+  // the group window; a toggle is saved at once and shown on `layer`.
+  enum eShown { kCommonShown, kStageShown, kGroupShown };
+  bool IsShown(eShown which) const;
+  void ToggleShown(eShown which, int layer);
 
   cPaletteWindow& Palette(cPaletteSide side);
   cGroupWindow& Group() { return *m_pGroupWnd; }

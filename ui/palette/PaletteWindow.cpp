@@ -26,6 +26,7 @@
 #include "ui/palette/MoveDialog.h"
 #include "ui/palette/PaletteCommands.h"
 #include "ui/palette/SurfaceImage.h"
+#include "ui/stage/StageViewRules.h"
 #include "ui/stageview/ObjectDraw.h"
 
 namespace velmora {
@@ -42,10 +43,6 @@ constexpr std::array<std::array<const char*, 3>, 2> kTitles = {{
 }};
 
 int RowsFor(int count) { return std::max(count - 1, 0) / cPaletteWindow::kColumns + 1; }
-
-// Wheel steps as the stage window counts them: away from the author by
-// its size, towards the author always one.
-int WheelSteps(int delta) { return delta > 0 ? delta / 120 : -1; }
 
 QRect WorkArea() {
   const QScreen* screen = QGuiApplication::primaryScreen();
@@ -320,7 +317,7 @@ bool cPaletteWindow::OnDialogMessage(QEvent& event) {
 
 void cPaletteWindow::Wheel(int delta) {
   if (!VertBar()) return;
-  VertBar()->SetPosition(VertBar()->Position() - WheelSteps(delta));
+  VertBar()->SetPosition(VertBar()->Position() + WheelCells(delta));
   Repaint();
 }
 

@@ -9,6 +9,7 @@
 
 #include "support/ScriptedPrompt.h"
 #include "support/TempProject.h"
+#include "EditorLock.h"
 #include "core/DoubleStart.h"
 #include "core/SaveData.h"
 #include "objects/Palette.h"
@@ -25,17 +26,6 @@ namespace velmora::testing {
 namespace {
 
 constexpr char kStage1[] = "data\\stg4\\Stage1.stg4_950";
-
-// The editor's lock as another editor would hold it. Tests that run beside
-// this one in other processes take turns on it.
-std::unique_ptr<cInstanceLock> HoldEditorLock() {
-  for (int attempt = 0; attempt < 1000; ++attempt) {
-    auto lock = std::make_unique<cInstanceLock>(kEditorLockName);
-    if (!lock->HeldElsewhere()) return lock;
-    QTest::qWait(20);
-  }
-  return nullptr;
-}
 
 // The editor started in a fresh copy of the sample project, driven the way
 // the author drives it.

@@ -66,7 +66,39 @@ bool cStageWindow::Open() {
   Window()->setWindowFlags(Qt::Window | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
   PlaceWindow();
   Window()->show();
+  OpenPalettes();
   return true;
+}
+
+void cStageWindow::OpenPalettes() {
+  cPaletteLinks links;
+  links.stageCommand = [this](int command) { SendCommand(MakeCommand(command, kNoticeAccelerator), 0); };
+  links.nextLayer = [this] { OnKey(Qt::Key_Space, false); };
+  links.paletteChanged = [this] { Repaint(); };
+  m_pPalettes = std::make_unique<cPaletteWindows>(Manager(), Window(), EditorConfig(), links);
+  m_pPalettes->Create(Window()->frameGeometry());
+  m_pPalettes->ShowLayer(StageEdit().m_iLayer);
+  using A = eMenuAction;
+  const std::pair<A, cPaletteWindows::eShown> toggles[] = {{A::CommonPalettes, cPaletteWindows::kCommonShown},
+                                                           {A::StagePalettes, cPaletteWindows::kStageShown},
+                                                           {A::GroupWindow, cPaletteWindows::kGroupShown}};
+  for (const auto& [action, shown] : toggles) {
+    SetHandler(action, [this, shown = shown] {
+      m_pPalettes->ToggleShown(shown, StageEdit().m_iLayer);
+      UpdateStates();
+    });
+  }
+}
+
+bool cStageWindow::IsChecked(const cStageCommand& command) const {
+  using A = eMenuAction;
+  const int layer = static_cast<int>(command.action) - static_cast<int>(A::LayerBlock);
+  if (layer >= 0 && layer < 3) return StageEdit().m_iLayer == layer;
+  if (!m_pPalettes) return false;
+  if (command.action == A::CommonPalettes) return m_pPalettes->IsShown(cPaletteWindows::kCommonShown);
+  if (command.action == A::StagePalettes) return m_pPalettes->IsShown(cPaletteWindows::kStageShown);
+  if (command.action == A::GroupWindow) return m_pPalettes->IsShown(cPaletteWindows::kGroupShown);
+  return false;
 }
 
 void cStageWindow::OnInitDialog() {
@@ -179,8 +211,7 @@ void cStageWindow::UpdateStates() {
     bool enabled = IsEnabled(command);
     if (command.action == eMenuAction::Undo) enabled = enabled && edit.m_iUndoNum >= 1;
     if (command.action == eMenuAction::Redo) enabled = enabled && edit.m_iRedoNum >= 1;
-    const int layer = static_cast<int>(command.action) - static_cast<int>(eMenuAction::LayerBlock);
-    const bool checked = layer >= 0 && layer < 3 && edit.m_iLayer == layer;
+    const bool checked = IsChecked(command);
     for (int id : command.ids) {
       if (id == 0) continue;
       SetMenuState(id, enabled, checked);
@@ -218,7 +249,9 @@ void cStageWindow::SetLayer(int layer) {
 
 void cStageWindow::LayerShown(int /*layer*/) {
   UpdateStates();
-  if (onLayerChanged) onLayerChanged(StageEdit().m_iLayer);
+  const int layer = StageEdit().m_iLayer;
+  if (onLayerChanged) onLayerChanged(layer);
+  if (m_pPalettes) m_pPalettes->ShowLayer(layer);
   Repaint();
 }
 

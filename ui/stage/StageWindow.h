@@ -1,11 +1,13 @@
 #pragma once
 #include <functional>
 #include <map>
+#include <memory>
 
 #include "stage/Stage.h"
 #include "stage/StageCommands.h"
 #include "stage/StageTools.h"
 #include "ui/framework/Dialog.h"
+#include "ui/palette/PaletteWindows.h"
 #include "ui/stage/StageCommands.h"
 #include "ui/stage/StageViewRules.h"
 #include "ui/surface/Surface.h"
@@ -40,6 +42,8 @@ class cStageWindow : public cDialog {
   // enabled by the state rules, one without stays disabled.
   void SetHandler(eMenuAction action, cHandler handler);
   bool HasHandler(eMenuAction action) const { return m_handlers.count(action) != 0; }
+  // The palette windows, null before the window opened.
+  cPaletteWindows* Palettes() const { return m_pPalettes.get(); }
   // Runs after each change of the current layer, for the palette windows.
   std::function<void(int layer)> onLayerChanged;
 
@@ -91,12 +95,16 @@ class cStageWindow : public cDialog {
   void AfterEdit();
   void Clear(eClearLayers which);
   bool IsEnabled(const cStageCommand& command) const;
+  void OpenPalettes();
+  bool IsChecked(const cStageCommand& command) const;
 
   cStageWindowHost& m_host;
   std::map<eMenuAction, cHandler> m_handlers;
   cSurface m_view;
   cCellPos m_cursor{0, 0};
   bool m_bOutsideDrag = false;
+  // The six palette windows and the group window.
+  std::unique_ptr<cPaletteWindows> m_pPalettes;
 };
 
 }  // namespace velmora

@@ -36,6 +36,7 @@ void cStageWindow::OnPaint(QPainter& painter) {
 
 void cStageWindow::Repaint() {
   if (IsOpen()) static_cast<cDialogWindow*>(Window())->Client()->update();
+  if (m_pPalettes) m_pPalettes->Refresh();
 }
 
 }  // namespace velmora

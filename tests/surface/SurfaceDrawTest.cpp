@@ -166,7 +166,7 @@ class cRecordingRenderer : public cTextRenderer {
     std::string font;
   };
   void DrawLine(cPixelImage&, int x, int y, const std::string& line, cColourRef colour, bool transparent,
-                const cFontSpec* font) override {
+                const cFontChoice* font) override {
     calls.push_back({x, y, line, colour, transparent, font ? font->name : ""});
   }
   std::vector<cCall> calls;

@@ -27,9 +27,9 @@ int PositionOf(const std::array<int, N>& table, int value) {
 
 QImage LoadStrip(const char* name) {
   cSurface surface;
-  cSurfaceSpec spec;
-  spec.name = name;
-  if (surface.TryLoad(spec) != eSurfaceLoad::Ok) return QImage();
+  cSurfaceSpec request;
+  request.name = name;
+  if (surface.TryLoad(request) != eSurfaceLoad::Ok) return QImage();
   return ToImage(surface);
 }
 

@@ -40,10 +40,10 @@ constexpr std::array<cFixedRow, kFixedBitmapCount> kFixedRows = {{
 
 bool IsBackground(int index) { return index == kFixedBack || index == kFixedWorldBack; }
 
-std::array<cSurfaceSpec, kFixedBitmapCount> MakeSpecs() {
-  std::array<cSurfaceSpec, kFixedBitmapCount> specs;
+std::array<cSurfaceSpec, kFixedBitmapCount> MakeLoadRequests() {
+  std::array<cSurfaceSpec, kFixedBitmapCount> requests;
   for (int i = 0; i < kFixedBitmapCount; ++i) {
-    cSurfaceSpec& request = specs[static_cast<size_t>(i)];
+    cSurfaceSpec& request = requests[static_cast<size_t>(i)];
     request.name = kFixedRows[static_cast<size_t>(i)].file;
     request.cellWidth = kFixedRows[static_cast<size_t>(i)].cellWidth;
     request.bMask = IsBackground(i) ? 0 : 1;
@@ -52,10 +52,10 @@ std::array<cSurfaceSpec, kFixedBitmapCount> MakeSpecs() {
       request.blankHeight = kComposedSheetHeight;
     }
   }
-  return specs;
+  return requests;
 }
 
-std::array<cSurfaceSpec, kFixedBitmapCount> g_specs = MakeSpecs();
+std::array<cSurfaceSpec, kFixedBitmapCount> g_loadRequests = MakeLoadRequests();
 std::array<cSurface, kFixedBitmapCount> g_surfaces;
 
 cSurface& At(int index) { return g_surfaces[static_cast<size_t>(std::clamp(index, 0, kFixedBitmapCount - 1))]; }
@@ -82,17 +82,17 @@ void ComposeSheets() {
 
 }  // namespace
 
-const cSurfaceSpec& FixedBitmapSpec(int index) {
-  return g_specs[static_cast<size_t>(std::clamp(index, 0, kFixedBitmapCount - 1))];
+const cSurfaceSpec& FixedBitmapRequest(int index) {
+  return g_loadRequests[static_cast<size_t>(std::clamp(index, 0, kFixedBitmapCount - 1))];
 }
 
 cSurface& FixedBitmap(int index) { return At(index); }
 
 bool LoadFixedBitmaps(const std::string& stageBackPath, const std::string& worldBackPath) {
-  g_specs[kFixedBack].name = stageBackPath;
-  g_specs[kFixedWorldBack].name = worldBackPath;
+  g_loadRequests[kFixedBack].name = stageBackPath;
+  g_loadRequests[kFixedWorldBack].name = worldBackPath;
   for (int i = 0; i < kFixedBitmapCount; ++i) {
-    const cSurfaceSpec& request = g_specs[static_cast<size_t>(i)];
+    const cSurfaceSpec& request = g_loadRequests[static_cast<size_t>(i)];
     if (!IsBackground(i)) {
       if (!At(i).Load(request)) return false;
       continue;

@@ -36,7 +36,7 @@ inline constexpr int kCharaSheetCount = 8;
 inline constexpr int kComposedSheetWidth = 256;
 inline constexpr int kComposedSheetHeight = 480;
 
-const cSurfaceSpec& FixedBitmapSpec(int index);
+const cSurfaceSpec& FixedBitmapRequest(int index);
 cSurface& FixedBitmap(int index);
 
 // Loads the whole table, then composes the five sheets. The two

@@ -101,7 +101,7 @@ class cSurface {
   const cPixelImage& Image() const { return m_image; }
   cPixelImage& Mask() { return m_mask; }
   const cPixelImage& Mask() const { return m_mask; }
-  const std::optional<cFontSpec>& Font() const { return m_font; }
+  const std::optional<cFontChoice>& Font() const { return m_font; }
   const cPen& Pen() const { return m_pen; }
   bool TransparentBackground() const { return m_transparentBackground; }
 
@@ -114,7 +114,7 @@ class cSurface {
   cPixelImage m_image;
   int m_cellWidth = 0;
   int m_cellHeight = 0;
-  std::optional<cFontSpec> m_font;
+  std::optional<cFontChoice> m_font;
   cPixelImage m_mask;
   cPen m_pen;
   cPen m_previousPen;

@@ -112,13 +112,13 @@ void cSurface::Grid(int x, int y, int w, int h, int stepY, int stepX, cColourRef
   FreePen();
 }
 
-void cSurface::SetFont(const std::string& name, int width, int height) { m_font = cFontSpec{name, width, height}; }
+void cSurface::SetFont(const std::string& name, int width, int height) { m_font = cFontChoice{name, width, height}; }
 
 void cSurface::DrawText(int x, int y, const std::string& text, cColourRef colour, int mode) {
   m_transparentBackground = mode == kTextTransparent;
   cTextRenderer* renderer = TextRenderer();
   if (!renderer || !IsLoaded()) return;
-  const cFontSpec* font = m_font ? &*m_font : nullptr;
+  const cFontChoice* font = m_font ? &*m_font : nullptr;
   size_t start = 0;
   for (int line = 0;; ++line) {
     const size_t end = text.find('\n', start);

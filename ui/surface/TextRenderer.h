@@ -9,7 +9,7 @@ class cPixelImage;
 
 // A font as a surface asks for it: face name and cell size, normal weight,
 // the Japanese character set.
-struct cFontSpec {
+struct cFontChoice {
   std::string name;  // CP932
   int width = 0;
   int height = 0;
@@ -24,7 +24,7 @@ class cTextRenderer {
   // `font` is null when the surface has none selected: the renderer's
   // default font applies.
   virtual void DrawLine(cPixelImage& target, int x, int y, const std::string& line, cColourRef colour,
-                        bool transparentBackground, const cFontSpec* font) = 0;
+                        bool transparentBackground, const cFontChoice* font) = 0;
 };
 
 cTextRenderer* TextRenderer();

@@ -158,6 +158,7 @@ bool cEditorApp::InitApp() {
   if (!CreateStageWindow()) return false;
   ListenForGames();
   if (RestoreSheetRate()) RunTimedBackup();
+  m_pManager->SetSheetRate(m_sheetRate);
   ReportLine("Sheet Rate = (%lf,%lf)", m_sheetRate.x, m_sheetRate.y);
   m_bStarted = true;
   return true;

@@ -1,5 +1,6 @@
 #include <QGuiApplication>
 #include <QWheelEvent>
+#include <QWindowStateChangeEvent>
 
 #include "stage/StageEdit.h"
 #include "stage/StageRange.h"
@@ -73,6 +74,13 @@ bool cStageWindow::OnDialogMessage(QEvent& event) {
       event.ignore();
       OnCloseBox();
       return true;
+    case QEvent::WindowStateChange: {
+      const bool was = static_cast<const QWindowStateChangeEvent&>(event).oldState() & Qt::WindowMinimized;
+      const bool now = Window()->isMinimized();
+      if (now && !was) m_host.StageWindowMinimised();
+      if (was && !now) m_host.StageWindowRestored();
+      return false;
+    }
     case QEvent::Wheel: {
       const auto& wheel = static_cast<const QWheelEvent&>(event);
       const QPoint delta = wheel.angleDelta();

@@ -74,12 +74,19 @@ class cKeyDialog : public cSampleDialog {
   }
 };
 
-TEST(KeyboardHook, WindowSeesKeysWhileAnEditHasTheFocus) {
+// A modeless window that notes every key the hook hands it.
+class KeyboardHookWindow : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    dialog.Create(0, true);
+    Activate(dialog.Window());
+  }
   cDialogManager manager;
   cSampleRecord record;
-  cKeyDialog dialog(manager, record);
-  dialog.Create(0, true);
-  Activate(dialog.Window());
+  cKeyDialog dialog{manager, record};
+};
+
+TEST_F(KeyboardHookWindow, WindowSeesKeysWhileAnEditHasTheFocus) {
   QLineEdit* edit = qobject_cast<QLineEdit*>(dialog.Item(kIdName));
   edit->setFocus();
   QTest::keyClick(edit, Qt::Key_Left);
@@ -97,12 +104,7 @@ TEST(KeyboardHook, WindowSeesKeysWhileAnEditHasTheFocus) {
 
 // Keys that edit a composition (Escape cancels it, Enter commits it, the
 // arrows move in it) are the input method's; the window hears nothing.
-TEST(KeyboardHook, KeysOfAnInputMethodCompositionStayWithTheEdit) {
-  cDialogManager manager;
-  cSampleRecord record;
-  cKeyDialog dialog(manager, record);
-  dialog.Create(0, true);
-  Activate(dialog.Window());
+TEST_F(KeyboardHookWindow, KeysOfAnInputMethodCompositionStayWithTheEdit) {
   QLineEdit* name = qobject_cast<QLineEdit*>(dialog.Item(kIdName));
   QLineEdit* life = qobject_cast<QLineEdit*>(dialog.Item(kIdLife));
   const auto compose = [](QWidget* edit, const char* preedit, const char* commit) {

@@ -49,9 +49,10 @@ void LineDown(const cStageInput& in) { StartDrag(StageEdit().m_iLineX, StageEdit
 void DrawLine(const cStageInput& in) {
   const cStageEdit& edit = StageEdit();
   const std::vector<cCellPos> cells = LineCells(edit.m_iLineX, edit.m_iLineY, in.x, in.y);
+  const int brushW = std::max(edit.m_iBrushW, 1);
   for (size_t n = 0; n < cells.size(); ++n) {
     if (!InsideStage(cells[n].x, cells[n].y)) continue;
-    PlaceCell(EditStage().CellIndex(cells[n].x, cells[n].y), static_cast<int>(n) % std::max(edit.m_iBrushW, 1), in.shift);
+    PlaceCell(EditStage().CellIndex(cells[n].x, cells[n].y), static_cast<int>(n) % brushW, in.shift);
   }
 }
 

@@ -304,6 +304,17 @@ TEST_F(EditorWindow, LineAndRectangleDragsShowWhatTheReleaseWrites) {
     }
   }
   EXPECT_TRUE(itemShown);
+
+  // A brush of a block and a gap tiles from the rectangle's own left edge,
+  // also when the view starts inside the rectangle.
+  edit.m_vecBrushBlock.resize(2);
+  edit.m_iBrushW = 2;
+  edit.m_iRectX = 0;
+  currentLayer.Fill(0);
+  DrawDragPreview(EditStage(), edit, {3, 9}, false, currentLayer, 1, 0);
+  EXPECT_TRUE(AllBlack(CellInside(currentLayer, 0, 9)));   // stage column 1: gap
+  EXPECT_FALSE(AllBlack(CellInside(currentLayer, 1, 9)));  // stage column 2: block
+  EXPECT_TRUE(AllBlack(CellInside(currentLayer, 2, 9)));
   edit.m_bDrag = 0;
 }
 

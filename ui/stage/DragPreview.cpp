@@ -31,15 +31,19 @@ std::vector<cPreviewCell> LinePreview(const cStageEdit& edit, cCellPos cursor) {
   return preview;
 }
 
-std::vector<cPreviewCell> RectPreview(const cStageEdit& edit, cCellPos cursor) {
+// Only the part in view: a rectangle may cover a whole large stage.
+std::vector<cPreviewCell> RectPreview(const cStageEdit& edit, cCellPos cursor, const cSurface& out, int scrollX,
+                                      int scrollY) {
   const int left = std::min(edit.m_iRectX, cursor.x);
   const int top = std::min(edit.m_iRectY, cursor.y);
-  const int width = std::abs(cursor.x - edit.m_iRectX) + 1;
-  const int height = std::abs(cursor.y - edit.m_iRectY) + 1;
+  const int right = std::min(std::max(edit.m_iRectX, cursor.x), scrollX + out.Width() / kCellDots);
+  const int bottom = std::min(std::max(edit.m_iRectY, cursor.y), scrollY + out.Height() / kCellDots);
+  const int brushW = std::max(edit.m_iBrushW, 1);
+  const int brushH = std::max(edit.m_iBrushH, 1);
   std::vector<cPreviewCell> preview;
-  for (int r = 0; r < height; ++r) {
-    for (int c = 0; c < width; ++c) {
-      preview.push_back({{left + c, top + r}, TileIndex(c, r, std::max(edit.m_iBrushW, 1), std::max(edit.m_iBrushH, 1))});
+  for (int y = std::max(top, scrollY); y <= bottom; ++y) {
+    for (int x = std::max(left, scrollX); x <= right; ++x) {
+      preview.push_back({{x, y}, TileIndex(x - left, y - top, brushW, brushH)});
     }
   }
   return preview;
@@ -47,7 +51,9 @@ std::vector<cPreviewCell> RectPreview(const cStageEdit& edit, cCellPos cursor) {
 
 // The brush record of one layer at `index`, drawn like a placed one.
 void DrawBrushRecord(const cStageEdit& edit, int layer, int index, cSurface& out, int x, int y) {
-  const auto at = [index](const auto& brush) { return index < static_cast<int>(brush.size()) ? &brush[index] : nullptr; };
+  const auto at = [index](const auto& brush) {
+    return index < static_cast<int>(brush.size()) ? &brush[static_cast<size_t>(index)] : nullptr;
+  };
   if (layer == 0) {
     if (const cEdBlock* block = at(edit.m_vecBrushBlock)) DrawObject(out, x, y, LookOf(*block), false);
   } else if (layer == 1) {
@@ -65,7 +71,8 @@ void DrawDragPreview(const cStage& stage, const cStageEdit& edit, cCellPos curso
                      int scrollX, int scrollY) {
   if (!edit.m_bDrag || (edit.m_iCursorMode != kModeLine && edit.m_iCursorMode != kModeRect)) return;
   const bool line = edit.m_iCursorMode == kModeLine;
-  const std::vector<cPreviewCell> cells = line ? LinePreview(edit, cursor) : RectPreview(edit, cursor);
+  const std::vector<cPreviewCell> cells =
+      line ? LinePreview(edit, cursor) : RectPreview(edit, cursor, out, scrollX, scrollY);
   const int firstLayer = allLayers ? 0 : edit.m_iLayer;
   const int lastLayer = allLayers ? 2 : edit.m_iLayer;
   std::vector<cCellPos> framed;
@@ -74,7 +81,9 @@ void DrawDragPreview(const cStage& stage, const cStageEdit& edit, cCellPos curso
     if (cell.x < 0 || cell.y < 0 || cell.x >= stage.m_nWidth || cell.y >= stage.m_nHeight) continue;
     const int x = (cell.x - scrollX) * kCellDots;
     const int y = (cell.y - scrollY) * kCellDots;
-    for (int layer = firstLayer; layer <= lastLayer; ++layer) DrawBrushRecord(edit, layer, preview.brushIndex, out, x, y);
+    for (int layer = firstLayer; layer <= lastLayer; ++layer) {
+      DrawBrushRecord(edit, layer, preview.brushIndex, out, x, y);
+    }
     if (line) framed.push_back({x, y});
   }
   if (framed.empty()) return;

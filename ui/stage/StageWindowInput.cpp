@@ -91,6 +91,8 @@ bool cStageWindow::OnDialogMessage(QEvent& event) {
   }
   if (event.type() != cHookKeyEvent::EventType()) return false;
   const auto& key = static_cast<const cHookKeyEvent&>(event);
+  // Shift decides which layers a drag writes; its preview follows at once.
+  if (key.Key() == Qt::Key_Shift && StageEdit().m_bDrag) Repaint();
   if (key.Kind() == cHookKeyEvent::KeyUp) return false;
   return OnKey(key.Key(), key.Modifiers() & Qt::ControlModifier);
 }

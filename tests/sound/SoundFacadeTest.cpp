@@ -32,12 +32,13 @@ TEST_F(SoundFacadeTest, TheSampleSoundsAreWhatTheGameReads) {
   EXPECT_EQ(wave.channels, 1);
   EXPECT_GT(wave.Frames(), 2000u);
 
-  std::vector<uint8_t> midi;
+  cWholeFile midi;
   ASSERT_TRUE(ReadSoundFile("bgm\\Free.mid", midi));
-  EXPECT_EQ(midi[9], 1) << "format 1";
-  EXPECT_EQ(midi[11], 2) << "two tracks";
+  ASSERT_GT(midi.size, 11u);
+  EXPECT_EQ(midi.data[9], 1) << "format 1";
+  EXPECT_EQ(midi.data[11], 2) << "two tracks";
   int tempos = 0;
-  for (const cTimedEvent& event : ImageEvents(FlattenSmf(midi.data(), midi.size(), "Free.mid"))) {
+  for (const cTimedEvent& event : ImageEvents(FlattenSmf(midi.data.get(), midi.size, "Free.mid"))) {
     tempos += event.bytes[0] == 0xFF && event.bytes[1] == 0x51;
   }
   EXPECT_EQ(tempos, 2);

@@ -247,10 +247,4 @@ void cSurface::Free() {
   m_cellHeight = 0;
 }
 
-bool cSurface::LoadPalette(cColourTable& out, const std::string& name) { return ReadBitmapPalette(out, name); }
-
-void cSurface::SetTransparentColour(cColourRef colour) { StoreTransparentColour(colour); }
-
-void cSurface::SetSolidColour(cColourRef colour) { StoreSolidColour(colour); }
-
 }  // namespace velmora

@@ -5,6 +5,7 @@
 
 #include "core/ProjectPaths.h"
 #include "core/SystemText.h"
+#include "platform/HostPath.h"
 #include "platform/TextCodec.h"
 #include "project/Database.h"
 #include "support/TempProject.h"
@@ -201,11 +202,7 @@ class DatabaseFilesTest : public DatabaseTest {
     for (int i = 0; i < kDbListCount; ++i) db.List(static_cast<eDbList>(i)).Resize(2);
     ASSERT_TRUE(db.Save(false));
   }
-  static std::string HostOf(eDbList list) {
-    std::string path = PathOf(DbListInfo(list).file);
-    std::replace(path.begin(), path.end(), '\\', '/');
-    return path;
-  }
+  static std::string HostOf(eDbList list) { return HostPath(PathOf(DbListInfo(list).file)); }
 };
 
 TEST_F(DatabaseFilesTest, LoadStopsAtTheFirstMissingOrTooNewFileWithItsText) {

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "core/ByteOrder.h"
+#include "platform/ByteOrder.h"
 #include "sound/MidiVarLen.h"
 
 namespace velmora {

@@ -6,9 +6,9 @@
 #include <queue>
 #include <utility>
 
-#include "core/ByteOrder.h"
 #include "core/Log.h"
 #include "core/SystemText.h"
+#include "platform/ByteOrder.h"
 #include "sound/MidiVarLen.h"
 
 namespace velmora {

@@ -1,6 +1,6 @@
 #include "sound/SmfWriter.h"
 
-#include "core/ByteOrder.h"
+#include "platform/ByteOrder.h"
 #include "sound/MidiVarLen.h"
 
 namespace velmora {

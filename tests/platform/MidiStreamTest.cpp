@@ -4,7 +4,7 @@
 #include <cmath>
 #include <thread>
 
-#include "core/ByteOrder.h"
+#include "platform/ByteOrder.h"
 #include "platform/FluidSynthSink.h"
 #include "platform/MidiRecordingSink.h"
 #include "platform/MidiStream.h"

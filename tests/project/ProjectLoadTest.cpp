@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "core/ByteOrder.h"
 #include "core/EditConfig.h"
 #include "core/ProjectFolder.h"
 #include "core/ProjectPaths.h"
@@ -14,6 +13,7 @@
 #include "objects/GValInfo.h"
 #include "objects/RefNames.h"
 #include "objects/Shot.h"
+#include "platform/ByteOrder.h"
 #include "platform/HostPath.h"
 #include "platform/TextCodec.h"
 #include "project/Database.h"

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "core/ByteOrder.h"
 #include "core/Log.h"
+#include "platform/ByteOrder.h"
 #include "platform/MidiOutputDevice.h"
 #include "platform/MidiRecordingSink.h"
 #include "platform/MidiStream.h"

@@ -2,9 +2,9 @@
 
 #include <filesystem>
 
-#include "core/ByteOrder.h"
 #include "core/SaveData.h"
 #include "inspect/Inspector.h"
+#include "platform/ByteOrder.h"
 #include "sample/SampleProject.h"
 #include "support/TempProject.h"
 #include "ui/surface/CharaBitmaps.h"

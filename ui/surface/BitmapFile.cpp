@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "core/ByteOrder.h"
+#include "platform/ByteOrder.h"
 #include "ui/surface/PixelImage.h"
 
 namespace velmora {

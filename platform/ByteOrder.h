@@ -5,8 +5,8 @@
 
 namespace velmora {
 
-// Fixed-width integers of foreign file formats, `bytes` wide (1 to 4). The
-// record stream has its own reader; these serve bitmaps, waves and MIDI.
+// Fixed-width integers of foreign formats, `bytes` wide (1 to 4): bitmaps,
+// waves, MIDI and the game's messages. The record stream has its own reader.
 
 inline uint32_t ReadLittle(const uint8_t* at, size_t bytes) {
   uint32_t value = 0;

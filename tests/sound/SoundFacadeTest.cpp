@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "MidiTestSupport.h"
+#include "core/SaveData.h"
 #include "sound/MusicPlayer.h"
 #include "sound/SampleSounds.h"
 #include "sound/SoundFile.h"
@@ -69,6 +70,19 @@ TEST_F(SoundFacadeTest, SetTrackSortsByExactExtension) {
     EXPECT_STREQ(ogg[0].path, c.oggRow) << c.path;
     EXPECT_STREQ(midi[0].path, c.midiRow) << c.path;
   }
+  player.Shutdown();
+}
+
+TEST_F(SoundFacadeTest, ATrackBeyondTheTablesTakesTheBadIndexStopAndRowZero) {
+  cOggTrackRow ogg[2] = {{"zero.ogg", 7}, {"beyond.ogg", 7}};
+  cMidiTrackRow midi[2] = {{"zero.mid", 7}, {"beyond.mid", 7}};
+  cMusicPlayer player;
+  player.Init(1, ogg, midi, 1, 1);  // one track: the second rows are not the player's
+  EXPECT_EQ(player.SetTrack(1, "bgm\\late.ogg", 40), 1);
+  EXPECT_EQ(g_bNoSave, 1);
+  EXPECT_STREQ(ogg[0].path, "bgm\\late.ogg");
+  EXPECT_STREQ(ogg[1].path, "beyond.ogg");
+  g_bNoSave = 0;
   player.Shutdown();
 }
 

@@ -23,6 +23,11 @@ eReadResult ReadWholeFile(const std::string& stored, cWholeFile& out, long long 
     if (!out.data) result = eReadResult::OutOfMemory;
     else out.size = std::fread(out.data.get(), 1, static_cast<size_t>(size), file);
   }
+  // A folder opens like a file on this system and fails only when read.
+  if (result == eReadResult::Ok && std::ferror(file)) {
+    out = cWholeFile{};
+    result = eReadResult::Missing;
+  }
   std::fclose(file);
   return result;
 }

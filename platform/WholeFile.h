@@ -13,7 +13,7 @@ struct cWholeFile {
   size_t size = 0;
 };
 
-enum class eReadResult { Ok, Missing, TooLarge, OutOfMemory };
+enum class eReadResult { Ok, Missing, TooLarge, OutOfMemory };  // Missing: absent or unreadable
 
 // Reads the file at a stored path. A file over `maxBytes` is refused before
 // anything is allocated for it, so a damaged or foreign file can't make the

@@ -53,8 +53,4 @@ eListCommand CommandForId(const ListCommandIds& ids, int id) {
   return eListCommand::None;
 }
 
-int ListFamilyOfMenu(int menuId) {
-  return (menuId >= 115 && menuId <= 117) || menuId == 177 ? 1 : 0;
-}
-
 }  // namespace velmora

@@ -19,7 +19,4 @@ ListCommandIds ListAcceleratorIds(int listNumber, int family);
 // The command an id stands for in a set, or None.
 eListCommand CommandForId(const ListCommandIds& ids, int id);
 
-// Menus 112 to 114 and 176 take family 0, 115 to 117 and 177 family 1.
-int ListFamilyOfMenu(int menuId);
-
 }  // namespace velmora

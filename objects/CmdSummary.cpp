@@ -5,7 +5,6 @@
 #include "core/SystemText.h"
 #include "objects/CmdSummaryParts.h"
 #include "objects/CmdTable.h"
-#include "objects/GValInfo.h"
 
 namespace velmora {
 namespace {
@@ -69,7 +68,5 @@ double EstimateArcTime(int end, int start, int speed) {
   if (speed == 0) return 0.0;
   return static_cast<double>(end - start) / speed * 10.0 / 6.0;
 }
-
-cVarText VarText(int scope, int number) { return {VarNumberText(number), VarName(scope, number)}; }
 
 }  // namespace velmora

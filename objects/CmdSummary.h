@@ -19,12 +19,4 @@ double EstimateMoveTime(int speed, int dist, int unit);
 // 0.0 at speed 0.
 double EstimateArcTime(int end, int start, int speed);
 
-// A variable as lists show it: its number in three digits and its name in
-// the common list (scope 0) or the stage list (scope 1).
-struct cVarText {
-  std::string number;
-  std::string name;
-};
-cVarText VarText(int scope, int number);
-
 }  // namespace velmora

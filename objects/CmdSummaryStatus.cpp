@@ -7,6 +7,7 @@
 #include "objects/GValInfo.h"
 #include "objects/ObjectList.h"
 #include "objects/StatusTables.h"
+#include "objects/code/VarCombo.h"
 
 // The lines of the commands that change statuses, flags and variables.
 namespace velmora {
@@ -23,9 +24,9 @@ constexpr int kArrangeCharaVar = 2;
 bool IsCharacter(int object) { return object >= 0 && object < kObjectSystem; }
 const char* Object(int row) { return ObjectLabel(CurrentObjectContext(), row); }
 
+// A variable as its combo row shows it: the number and the name.
 void AppendVariable(std::string& text, const char* format, int scope, int number) {
-  const cVarText var = VarText(scope, number);
-  AppendFormat(text, SysText(format), var.number.c_str(), var.name.c_str());
+  AppendFormat(text, SysText(format), VarComboRowText(number, VarName(scope, number)).c_str());
 }
 
 // A status of a character or of the system. The left side closes with
@@ -45,7 +46,7 @@ void AppendStatusSide(std::string& text, int object, int status, int charaVar, i
 }
 
 void AppendStatusLeft(std::string& text, const cEdCmd& cmd) {
-  if (Param(cmd, 0) == kSideVariable) AppendVariable(text, " 「%s %s」を", Param(cmd, 1), Param(cmd, 2));
+  if (Param(cmd, 0) == kSideVariable) AppendVariable(text, " 「%s」を", Param(cmd, 1), Param(cmd, 2));
   if (Param(cmd, 0) != kSideStatus) return;
   const int object = Param(cmd, 3);
   const int status = Param(cmd, 4);
@@ -66,7 +67,7 @@ void AppendStatusRight(std::string& text, const cEdCmd& cmd) {
       AppendStatusSide(text, Param(cmd, 12), Param(cmd, 13), Param(cmd, 11), Param(cmd, 19), "");
       break;
     case kRightVariable:
-      AppendVariable(text, " 「%s %s」", Param(cmd, 10), Param(cmd, 11));
+      AppendVariable(text, " 「%s」", Param(cmd, 10), Param(cmd, 11));
       break;
     default:
       break;

@@ -6,6 +6,7 @@
 
 #include "core/SaveData.h"
 #include "objects/Cond.h"
+#include "objects/PaletteTables.h"
 
 namespace velmora {
 
@@ -47,8 +48,7 @@ class cEdEntry : public cSaveData {
 // shows one moves up by one, at most to the last picture.
 template <class T>
 void RenumberShotGraphic(T& entry) {
-  constexpr int kShotKind = 3;
-  if (entry.m_nGraphicKind == kShotKind) entry.m_nGraphicNo = static_cast<int16_t>(std::min(entry.m_nGraphicNo + 1, 119));
+  if (entry.m_nGraphicKind == kGraphicKindShot) entry.m_nGraphicNo = static_cast<int16_t>(std::min(entry.m_nGraphicNo + 1, 119));
 }
 
 // Resizes a flag vector to `size` and inserts `value` at `index`, moving

@@ -27,9 +27,15 @@ extern const cLabelTable GetTypeTable;
 // Where an entry inherits from, and where a reference points.
 enum eInheritSrc : int { kInheritNone = 0, kInheritCommon = 1, kInheritStage = 2 };
 
-// Graphic kinds with a rule of their own.
-inline constexpr int kGraphicKindChara = 1;
-inline constexpr int kGraphicKindShot = 3;
-inline constexpr int kGraphicKindOwnBmp = 4;
+// Graphic kinds by stored value, the rows of GraphicKindTable: the sheet a
+// block, character, item or animation preview takes its picture from.
+enum eGraphicKind : int {
+  kGraphicKindBlock,
+  kGraphicKindChara,
+  kGraphicKindItem,
+  kGraphicKindShot,
+  kGraphicKindOwnBmp,
+  kGraphicKindCount
+};
 
 }  // namespace velmora

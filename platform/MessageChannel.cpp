@@ -8,6 +8,8 @@
 #include <cstddef>
 #include <cstring>
 
+#include "platform/ByteOrder.h"
+
 namespace velmora {
 namespace {
 
@@ -22,10 +24,6 @@ bool AbstractAddress(const std::string& name, sockaddr_un& address, socklen_t& l
 }
 
 int MakeSocket() { return ::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0); }
-
-uint32_t LittleEndianWord(const uint8_t* bytes) {
-  return uint32_t{bytes[0]} | uint32_t{bytes[1]} << 8 | uint32_t{bytes[2]} << 16 | uint32_t{bytes[3]} << 24;
-}
 
 bool SentBySameUser(msghdr& header) {
   for (cmsghdr* part = CMSG_FIRSTHDR(&header); part; part = CMSG_NXTHDR(&header, part)) {
@@ -82,7 +80,7 @@ bool cMessageReceiver::Receive(uint32_t& id) {
       return false;
     }
     if (got < static_cast<ssize_t>(sizeof data) || !SentBySameUser(header)) continue;
-    id = LittleEndianWord(data);
+    id = ReadLittle(data, sizeof data);
     return true;
   }
   return false;
@@ -94,8 +92,8 @@ bool SendChannelMessage(const std::string& name, uint32_t id) {
   if (!AbstractAddress(name, address, length)) return false;
   const int fd = MakeSocket();
   if (fd < 0) return false;
-  const uint8_t data[4] = {static_cast<uint8_t>(id), static_cast<uint8_t>(id >> 8), static_cast<uint8_t>(id >> 16),
-                           static_cast<uint8_t>(id >> 24)};
+  uint8_t data[4];
+  StoreLittle(data, id, sizeof data);
   const ssize_t sent = ::sendto(fd, data, sizeof data, 0, reinterpret_cast<sockaddr*>(&address), length);
   ::close(fd);
   return sent == static_cast<ssize_t>(sizeof data);

@@ -23,7 +23,7 @@ void cEdAnimeFrame::Register(uint32_t) {
 
 void cEdAnime::SetUp() {
   Reset();
-  m_cSampleKind = SampleChara;
+  m_cSampleKind = kGraphicKindChara;
   m_vecFrames.assign(1, cEdAnimeFrame());
 }
 

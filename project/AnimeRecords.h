@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/SaveData.h"
+#include "objects/PaletteTables.h"
 
 namespace velmora {
 
@@ -21,14 +22,11 @@ class cEdAnimeFrame : public cSaveData {
   void Register(uint32_t version) override;
 };
 
-// The kinds of object an animation is previewed on, by stored value.
-enum eSampleKind : int8_t { SampleBlock, SampleChara, SampleItem, SampleShot, SampleOwnBmp };
-
 class cEdAnime : public cSaveData {
  public:
   std::string m_strName;
   int16_t m_iSampleNo = 0;
-  int8_t m_cSampleKind = SampleChara;
+  int8_t m_cSampleKind = kGraphicKindChara;  // what the preview shows the animation on
   int16_t m_iSampleCell = 0;
   std::vector<cEdAnimeFrame> m_vecFrames;
 

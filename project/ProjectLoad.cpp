@@ -16,7 +16,6 @@
 #include "project/WorldMap.h"
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
-#include "ui/surface/CharaBitmaps.h"
 #include "ui/surface/FixedBitmaps.h"
 #include "ui/surface/PaletteBitmaps.h"
 
@@ -57,14 +56,6 @@ std::string StageBackgroundFile() {
   return backs.empty() ? std::string() : backs.front().m_strPath;
 }
 
-std::vector<cCharaBitmapSource> CharaBitmapSources() {
-  std::vector<cCharaBitmapSource> sources;
-  for (const cEdCharaBmp& row : Database().m_CharaBmp.m_vecEntries) {
-    sources.push_back({row.m_strPath, 32 * (row.m_bHuge ? row.m_iHugeSize : 1)});
-  }
-  return sources;
-}
-
 bool LoadPictures() {
   if (!LoadPaletteBitmaps()) return false;
   if (!LoadFixedBitmaps(StageBackgroundFile(), WorldMap().m_strBackPath)) return false;
@@ -89,6 +80,14 @@ void WriteBackUpgradedFiles() {
 }
 
 }  // namespace
+
+std::vector<cCharaBitmapSource> CharaBitmapSources() {
+  std::vector<cCharaBitmapSource> sources;
+  for (const cEdCharaBmp& row : Database().m_CharaBmp.m_vecEntries) {
+    sources.push_back({row.m_strPath, 32 * (row.m_bHuge ? row.m_iHugeSize : 1)});
+  }
+  return sources;
+}
 
 bool LoadProject() {
   if (!LoadCommonVars()) return ReportFailure(PathOf(ePath::GValInfo));

@@ -1,4 +1,7 @@
 #pragma once
+#include <vector>
+
+#include "ui/surface/CharaBitmaps.h"
 
 namespace velmora {
 
@@ -10,5 +13,8 @@ namespace velmora {
 // than this build (system, database, world map) are written back upgraded.
 // The edit stage is left unnamed.
 bool LoadProject();
+
+// The character bitmaps that the database's rows name, at their cell sizes.
+std::vector<cCharaBitmapSource> CharaBitmapSources();
 
 }  // namespace velmora

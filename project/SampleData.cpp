@@ -30,10 +30,10 @@ std::vector<Frame> Frames(cSteps steps) {
   return frames;
 }
 
-cEdAnime Anime(const char* name, eSampleKind kind, int16_t number, cSteps steps) {
+cEdAnime Anime(const char* name, eGraphicKind kind, int16_t number, cSteps steps) {
   cEdAnime anime;
   anime.m_strName = SysText(name);
-  anime.m_cSampleKind = kind;
+  anime.m_cSampleKind = static_cast<int8_t>(kind);
   anime.m_iSampleNo = number;
   anime.m_vecFrames = Frames<cEdAnimeFrame>(steps);
   return anime;
@@ -103,8 +103,9 @@ cEdDatabase SampleDatabase() {
   cEdDatabase db;
   Fill(db.m_AnimeSet, false, {AnimeSet("主人公", 1, 0), AnimeSet("敵", 2, 0), AnimeSet("飛行敵", 3, 4)});
   Fill(db.m_Anime, true,
-       {Anime("コイン", SampleItem, 1, {{0, 1}, {1, 1}, {2, 1}, {3, 1}}),
-        Anime("ジャンプ", SampleChara, 1, {{5, 2}, {6, 4}}), Anime("点滅ブロック", SampleBlock, 2, {{0, 3}, {1, 3}})});
+       {Anime("コイン", kGraphicKindItem, 1, {{0, 1}, {1, 1}, {2, 1}, {3, 1}}),
+        Anime("ジャンプ", kGraphicKindChara, 1, {{5, 2}, {6, 4}}),
+        Anime("点滅ブロック", kGraphicKindBlock, 2, {{0, 3}, {1, 3}})});
   Fill(db.m_CharaBmp, true, {FileEntry<cEdCharaBmp>("キャラ1", "bmp\\Character1.bmp")});
   Fill(db.m_SwordType, false, {Sword()});
   Fill(db.m_Effect, true,

@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "platform/ByteOrder.h"
 #include "sound/MidiVarLen.h"
 
 namespace velmora {
@@ -63,14 +64,10 @@ bool Classify(const uint8_t* e, uint64_t left, cStreamEvent& out) {
   return true;
 }
 
-void PutWord(uint8_t* at, uint32_t value) {
-  for (int i = 0; i < 4; ++i) at[i] = static_cast<uint8_t>(value >> (8 * i));
-}
-
 void WriteEvent(uint8_t* at, uint32_t delta, const cStreamEvent& event, const uint8_t* status) {
-  PutWord(at, delta);
-  PutWord(at + 4, 0);
-  PutWord(at + 8, event.word);
+  StoreLittle(at, delta, 4);
+  StoreLittle(at + 4, 0, 4);
+  StoreLittle(at + 8, event.word, 4);
   if (event.word & MEVT_F_LONG) {
     at[kMidiEventWords] = *status;
     std::memcpy(at + kMidiEventWords + 1, event.longData, event.longSize);

@@ -7,10 +7,7 @@ namespace velmora {
 
 cMidiStreamBank::~cMidiStreamBank() { Clear(); }
 
-void cMidiStreamBank::Resize(int channels) {
-  m_vecPlayers.resize(channels);
-  m_vecChannelFlags.resize(channels, 0);
-}
+void cMidiStreamBank::Resize(int channels) { m_vecPlayers.resize(channels); }
 
 int cMidiStreamBank::Load(int channel, const std::string& path, bool loop) {
   StopAll(true);
@@ -33,7 +30,6 @@ void cMidiStreamBank::StopAll(bool pause) {
 void cMidiStreamBank::Clear() {
   DestroyPlayers();
   m_vecPlayers.clear();
-  m_vecChannelFlags.clear();
 }
 
 cMidiStreamPlayer* cMidiStreamBank::Player(int channel) { return VecAt(m_vecPlayers, channel).get(); }

@@ -24,7 +24,6 @@ class cMidiStreamBank {
  private:
   void DestroyPlayers();
   std::vector<std::unique_ptr<cMidiStreamPlayer>> m_vecPlayers;
-  std::vector<int> m_vecChannelFlags;  // kept beside the slots; playing doesn't read it
 };
 
 }  // namespace velmora

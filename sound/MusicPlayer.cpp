@@ -35,7 +35,8 @@ int cMusicPlayer::Init(int channels, cOggTrackRow* oggTable, cMidiTrackRow* midi
 
 int cMusicPlayer::SetTrack(int track, const std::string& path, int volume) {
   if (!m_bReady) return 1;
-  int& kind = VecAt(m_vecKinds, track);
+  track = CheckedTrack(track);
+  int& kind = m_vecKinds[static_cast<size_t>(track)];
   cOggTrackRow& ogg = m_pOggTracks[track];
   cMidiTrackRow& midi = m_pMidiTracks[track];
   std::string extension;
@@ -65,8 +66,9 @@ int cMusicPlayer::SetTrack(int track, const std::string& path, int volume) {
 int cMusicPlayer::Play(int channel, int track, bool loop, bool force) {
   if (!m_bReady) return 1;
   if (track == m_iCurrent && !force) return 1;
+  track = CheckedTrack(track);
   m_iCurrent = track;
-  int kind = VecAt(m_vecKinds, track);
+  const int kind = m_vecKinds[static_cast<size_t>(track)];
   int& playing = VecAt(m_vecPlaying, channel);
   if (kind != kMidi && StartOgg(channel, track, loop)) {
     playing = kOgg;
@@ -96,6 +98,13 @@ void cMusicPlayer::Shutdown() {
   m_cVox.Destroy();
   m_cStreams.Clear();
   m_bReady = 0;
+}
+
+// The track tables are the caller's arrays with a row per kind: a track
+// outside them takes the bad-index stop of the kinds and row 0, and is
+// never looked up in the tables as it came.
+int cMusicPlayer::CheckedTrack(int track) const {
+  return static_cast<int>(&VecAt(m_vecKinds, track) - m_vecKinds.data());
 }
 
 int cMusicPlayer::Playing(int channel) const { return VecAt(m_vecPlaying, channel); }

@@ -43,6 +43,7 @@ class cMusicPlayer {
   int Playing(int channel) const;
 
  private:
+  int CheckedTrack(int track) const;
   bool StartOgg(int channel, int track, bool loop);
   bool StartMidi(int channel, int track, bool loop);
   void StopMidi();

@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "platform/WholeFile.h"
 #include "sound/SmfWriter.h"
-#include "sound/SoundFile.h"
 #include "sound/WaveFile.h"
 
 namespace velmora {
@@ -123,7 +123,7 @@ bool WriteSampleWave(const std::string& path) {
     sound.samples.push_back(static_cast<uint8_t>(value & 0xFF));
     sound.samples.push_back(static_cast<uint8_t>((value >> 8) & 0xFF));
   }
-  return WriteSoundFile(path, EncodeWave(sound));
+  return WriteWholeFile(path, EncodeWave(sound));
 }
 
 bool WriteSampleMidi(const std::string& path) {
@@ -141,12 +141,12 @@ bool WriteSampleMidi(const std::string& path) {
     rest = 8;
   }
   tune.End(0);
-  return WriteSoundFile(path, file.Bytes());
+  return WriteWholeFile(path, file.Bytes());
 }
 
 bool WriteSampleOgg(const std::string& path) {
   std::vector<uint8_t> bytes = EncodeOgg(TuneSamples());
-  return !bytes.empty() && WriteSoundFile(path, bytes);
+  return !bytes.empty() && WriteWholeFile(path, bytes);
 }
 
 }  // namespace velmora

@@ -8,6 +8,7 @@
 
 #include "core/Log.h"
 #include "core/SystemText.h"
+#include "platform/ByteOrder.h"
 #include "sound/MidiVarLen.h"
 
 namespace velmora {
@@ -138,10 +139,6 @@ void WriteEvents(const std::vector<cTrack>& tracks, std::vector<uint8_t>& image)
   }
 }
 
-void PutBigEndian(std::vector<uint8_t>& image, size_t at, uint32_t value, size_t count) {
-  for (size_t i = 0; i < count; ++i) image[at + i] = static_cast<uint8_t>(value >> (8 * (count - 1 - i)));
-}
-
 }  // namespace
 
 std::vector<uint8_t> FlattenSmf(const uint8_t* data, size_t size, const std::string& name) {
@@ -161,14 +158,13 @@ std::vector<uint8_t> FlattenSmf(const uint8_t* data, size_t size, const std::str
   std::vector<uint8_t> image = {'M', 'T', 'h', 'd', 0, 0, 0, 6, 0, 0, 0, 1, data[12], data[13],
                                 'M', 'T', 'r', 'k', 0, 0, 0, 0};
   WriteEvents(tracks, image);
-  PutBigEndian(image, 18, static_cast<uint32_t>(image.size() - kSmfImageEvents), 4);
+  StoreBig(image.data() + 18, static_cast<uint32_t>(image.size() - kSmfImageEvents), 4);
   return image;
 }
 
 uint32_t SmfImageEnd(const std::vector<uint8_t>& image) {
   if (image.size() < kSmfImageEvents) return 0;
-  uint32_t length = 0;
-  for (size_t i = 18; i < 22; ++i) length = length << 8 | image[i];
+  const uint32_t length = ReadBig(image.data() + 18, 4);
   return static_cast<uint32_t>(std::min<size_t>(kSmfImageEvents + static_cast<size_t>(length), image.size()));
 }
 

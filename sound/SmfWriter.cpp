@@ -1,15 +1,9 @@
 #include "sound/SmfWriter.h"
 
+#include "platform/ByteOrder.h"
 #include "sound/MidiVarLen.h"
 
 namespace velmora {
-namespace {
-
-void PutBigEndian(std::vector<uint8_t>& out, uint32_t value, int bytes) {
-  for (int i = bytes - 1; i >= 0; --i) out.push_back(static_cast<uint8_t>(value >> (8 * i)));
-}
-
-}  // namespace
 
 cSmfTrack& cSmfTrack::Event(uint32_t delta, std::initializer_list<uint8_t> bytes) {
   WriteVarLen(m_bytes, delta);
@@ -20,7 +14,7 @@ cSmfTrack& cSmfTrack::Event(uint32_t delta, std::initializer_list<uint8_t> bytes
 cSmfTrack& cSmfTrack::Tempo(uint32_t delta, uint32_t microsecondsPerQuarter) {
   WriteVarLen(m_bytes, delta);
   m_bytes.insert(m_bytes.end(), {0xFF, 0x51, 0x03});
-  PutBigEndian(m_bytes, microsecondsPerQuarter, 3);
+  AppendBig(m_bytes, microsecondsPerQuarter, 3);
   return *this;
 }
 
@@ -47,12 +41,12 @@ cSmfTrack& cSmfWriter::AddTrack() { return m_tracks.emplace_back(); }
 
 std::vector<uint8_t> cSmfWriter::Bytes() const {
   std::vector<uint8_t> out = {'M', 'T', 'h', 'd', 0, 0, 0, 6};
-  PutBigEndian(out, m_uFormat, 2);
-  PutBigEndian(out, static_cast<uint32_t>(m_tracks.size()), 2);
-  PutBigEndian(out, m_uDivision, 2);
+  AppendBig(out, m_uFormat, 2);
+  AppendBig(out, static_cast<uint32_t>(m_tracks.size()), 2);
+  AppendBig(out, m_uDivision, 2);
   for (const cSmfTrack& track : m_tracks) {
     out.insert(out.end(), {'M', 'T', 'r', 'k'});
-    PutBigEndian(out, static_cast<uint32_t>(track.Bytes().size()), 4);
+    AppendBig(out, static_cast<uint32_t>(track.Bytes().size()), 4);
     out.insert(out.end(), track.Bytes().begin(), track.Bytes().end());
   }
   return out;

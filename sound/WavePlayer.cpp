@@ -8,7 +8,6 @@
 namespace velmora {
 
 int cWavePlayer::Open(const char* deviceType, const std::vector<std::string>& names) {
-  if (!m_bReady) return 1;
   Close();
   if (names.empty()) return 0;
   m_vecRows.resize(names.size());
@@ -21,7 +20,6 @@ int cWavePlayer::Open(const char* deviceType, const std::vector<std::string>& na
 }
 
 int cWavePlayer::PlayFile(OwnerWindow window, int row, std::string& path, uint32_t from) {
-  if (!m_bReady) return 1;
   std::string extension;
   if (!SoundExtension(path, extension)) return 0;
   if (extension == "mid" || extension == "MID") {
@@ -39,7 +37,6 @@ int cWavePlayer::PlayFile(OwnerWindow window, int row, std::string& path, uint32
 }
 
 bool cWavePlayer::ChangeSound(int row, const char* deviceType, const std::string& path) {
-  if (!m_bReady) return false;
   Halt(false);
   cOpenRow& target = VecAt(m_vecRows, row);
   // One sequencer at a time: every row lets go of its device first.
@@ -54,7 +51,6 @@ bool cWavePlayer::ChangeSound(int row, const char* deviceType, const std::string
 }
 
 void cWavePlayer::Start(OwnerWindow, int row, bool, bool resume, uint32_t from) {
-  if (!m_bReady) return;
   if (m_iPlaying >= 0) Halt(false);
   cOpenRow& target = VecAt(m_vecRows, row);
   if (target.device) target.device->Play(resume, from);
@@ -62,7 +58,7 @@ void cWavePlayer::Start(OwnerWindow, int row, bool, bool resume, uint32_t from) 
 }
 
 void cWavePlayer::Halt(bool pause) {
-  if (!m_bReady || m_iPlaying < 0) return;
+  if (m_iPlaying < 0) return;
   cOpenRow& row = VecAt(m_vecRows, m_iPlaying);
   if (!row.device) {
     m_iPlaying = -1;

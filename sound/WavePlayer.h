@@ -30,7 +30,6 @@ class cWavePlayer {
   };
   void OpenRow(cOpenRow& row);
 
-  int m_bReady = 1;
   std::vector<cOpenRow> m_vecRows;
   int m_iPlaying = -1;
 };

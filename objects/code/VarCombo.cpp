@@ -1,7 +1,8 @@
 #include "objects/code/VarCombo.h"
 
 #include <algorithm>
-#include <cstdio>
+
+#include "objects/GValInfo.h"
 
 namespace velmora {
 
@@ -14,9 +15,7 @@ std::vector<std::string> VarComboRows(const cVarNameList& list) {
 }
 
 std::string VarComboRowText(int number, std::string_view name) {
-  char digits[16];
-  std::snprintf(digits, sizeof digits, "%03d", number);
-  std::string text = digits;
+  std::string text = VarNumberText(number);
   text += ' ';
   text += name;
   return text;

@@ -1,14 +1,13 @@
 #include "project/bitmap/BitmapConvert.h"
 
 #include <array>
-#include <cstdio>
 #include <cstring>
 
 #include "core/EditConfig.h"
 #include "core/Log.h"
 #include "core/Prompt.h"
 #include "core/SystemText.h"
-#include "platform/FileSystem.h"
+#include "platform/WholeFile.h"
 #include "ui/surface/BitmapFile.h"
 #include "ui/surface/ProjectPalette.h"
 
@@ -37,8 +36,8 @@ struct cIndexedPicture {
   size_t rowBytes = 0;
 };
 
-eConvertResult ReadPicture(const std::string& input, cFileBytes& file, cIndexedPicture& picture) {
-  const eReadResult read = ReadWholeFile(input, file);
+eConvertResult ReadPicture(const std::string& input, cWholeFile& file, cIndexedPicture& picture) {
+  const eReadResult read = ReadBitmapFile(input, file);
   if (read == eReadResult::OutOfMemory) StopOutOfMemory();
   if (read != eReadResult::Ok) return eConvertResult::LoadFailed;
   cBitmapHeader header;
@@ -90,11 +89,7 @@ bool WritePicture(const std::string& output, const cIndexedPicture& picture, con
   std::vector<uint8_t> bytes(picture.headers, picture.headers + kBitmapHeadersSize);
   for (const cRgbQuad& q : table) bytes.insert(bytes.end(), {q.blue, q.green, q.red, q.reserved});
   bytes.insert(bytes.end(), picture.rows, picture.rows + picture.rowBytes * static_cast<size_t>(picture.height));
-  std::FILE* file = OpenFile(output, "wb");
-  if (!file) return false;
-  std::fwrite(bytes.data(), 1, bytes.size(), file);
-  std::fclose(file);
-  return true;
+  return WriteWholeFile(output, bytes);
 }
 
 }  // namespace
@@ -127,7 +122,7 @@ int FoldIntoUsableRange(int index) {
 
 eConvertResult ConvertBitmap(const std::string& input, const std::string& output, const cConvertOptions& options,
                              const cColourTable& projectPalette, const cColourTable& sourcePalette) {
-  cFileBytes file;
+  cWholeFile file;
   cIndexedPicture picture;
   const eConvertResult read = ReadPicture(input, file, picture);
   if (read == eConvertResult::LoadFailed) ErrorBox(SysText("%s のロードに失敗！"), input.c_str());

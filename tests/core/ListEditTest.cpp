@@ -235,8 +235,6 @@ TEST(ListCommands, IdSetsDependOnListNumberAndFamily) {
   EXPECT_EQ(ListAcceleratorIds(3, 1), (ListCommandIds{40029, 40022, 40027, 0, 40036, 0, 40037}));
   EXPECT_EQ(CommandForId(ListAcceleratorIds(4, 1), 40102), eListCommand::Delete);
   EXPECT_EQ(CommandForId(ListAcceleratorIds(4, 1), 0), eListCommand::None);
-  EXPECT_EQ(ListFamilyOfMenu(177), 1);
-  EXPECT_EQ(ListFamilyOfMenu(176), 0);
 }
 
 TEST(MoveEntries, MoveCopyAndEraseKeepEntryZero) {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <thread>
 
+#include "platform/ByteOrder.h"
 #include "platform/FluidSynthSink.h"
 #include "platform/MidiRecordingSink.h"
 #include "platform/MidiStream.h"
@@ -30,7 +31,8 @@ class cEventBuffer {
 
  private:
   void Put(uint32_t value) {
-    for (int i = 0; i < 4; ++i) m_bytes[header.dwBytesRecorded++] = static_cast<uint8_t>(value >> (8 * i));
+    StoreLittle(m_bytes.data() + header.dwBytesRecorded, value, 4);
+    header.dwBytesRecorded += 4;
   }
   std::vector<uint8_t> m_bytes;
 };

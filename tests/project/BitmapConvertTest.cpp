@@ -123,6 +123,8 @@ TEST_F(BitmapConvert, FailuresNameTheirFileAndTouchNothing) {
   WriteBytes("in.bmp", InputFile({}, {0, 0, 0, 0, 0}));
   EXPECT_EQ(Convert("in.bmp", "no\\such\\folder.bmp"), eConvertResult::OpenFailed);
   EXPECT_EQ(prompt.LastText(), "no\\such\\folder.bmp のオープンに失敗！");
+  // A disk that fills up fails the picture just as a folder that is missing.
+  EXPECT_EQ(Convert("in.bmp", "/dev/full"), eConvertResult::OpenFailed);
 }
 
 TEST_F(BitmapConvert, NegativeHeightKeepsNoRows) {

@@ -5,6 +5,7 @@
 
 #include "core/ProjectPaths.h"
 #include "core/SystemText.h"
+#include "platform/HostPath.h"
 #include "platform/TextCodec.h"
 #include "project/Database.h"
 #include "support/TempProject.h"
@@ -63,7 +64,7 @@ TEST_F(DatabaseTest, OldAnimationSetsGetFourSlotsWithTheFlyingNames) {
   EXPECT_EQ(ToCp932("飛行移動"), set.m_vecAnime[3].m_strName);
   ASSERT_EQ(1u, set.m_vecAnime[3].m_vecFrames.size());
   EXPECT_EQ(1, set.m_vecAnime[3].m_vecFrames[0].m_iTime);
-  EXPECT_EQ(SampleChara, set.m_vecAnime[3].m_cSampleKind);
+  EXPECT_EQ(kGraphicKindChara, set.m_vecAnime[3].m_cSampleKind);
 }
 
 TEST_F(DatabaseTest, AnimationsBeforeVersion55HaveNoSampleFields) {
@@ -71,7 +72,7 @@ TEST_F(DatabaseTest, AnimationsBeforeVersion55HaveNoSampleFields) {
   b.I32(0).I32(1).Str("walk").I32(2).I32(3).I32(4).I32(1).I32(0).I32(0).I32(3).I32(5).I32(6).I32(1).I32(0);
   auto anime = LoadList<cEdAnime>(54, 1, b);
   EXPECT_EQ("walk", anime.At(0).m_strName);
-  EXPECT_EQ(SampleChara, anime.At(0).m_cSampleKind);
+  EXPECT_EQ(kGraphicKindChara, anime.At(0).m_cSampleKind);
   ASSERT_EQ(2u, anime.At(0).m_vecFrames.size());
   EXPECT_EQ(6, anime.At(0).m_vecFrames[1].m_iTime);
   EXPECT_EQ(1, anime.At(0).m_vecFrames[1].m_bCommand);
@@ -201,11 +202,7 @@ class DatabaseFilesTest : public DatabaseTest {
     for (int i = 0; i < kDbListCount; ++i) db.List(static_cast<eDbList>(i)).Resize(2);
     ASSERT_TRUE(db.Save(false));
   }
-  static std::string HostOf(eDbList list) {
-    std::string path = PathOf(DbListInfo(list).file);
-    std::replace(path.begin(), path.end(), '\\', '/');
-    return path;
-  }
+  static std::string HostOf(eDbList list) { return HostPath(PathOf(DbListInfo(list).file)); }
 };
 
 TEST_F(DatabaseFilesTest, LoadStopsAtTheFirstMissingOrTooNewFileWithItsText) {

@@ -13,6 +13,8 @@
 #include "objects/GValInfo.h"
 #include "objects/RefNames.h"
 #include "objects/Shot.h"
+#include "platform/ByteOrder.h"
+#include "platform/HostPath.h"
 #include "platform/TextCodec.h"
 #include "project/Database.h"
 #include "project/ExitSave.h"
@@ -35,11 +37,6 @@ const char* const kMissingText =
     "%s の読み込みに失敗しました！\nこのファイルが存在しない場合は「default」フォルダから「data」フォルダへ同名のファイルをコピーして下さい。";
 const char* const kTooNewText = "%s の読み込みに失敗しました！\n実行ファイル(.exe)より上位のバージョンのファイルは使用できません。";
 
-std::string Host(std::string stored) {
-  for (char& c : stored) c = c == '\\' ? '/' : c;
-  return stored;
-}
-
 std::string Formatted(const char* format, const std::string& path) {
   char text[512];
   std::snprintf(text, sizeof text, format, path.c_str());
@@ -47,14 +44,14 @@ std::string Formatted(const char* format, const std::string& path) {
 }
 
 uint32_t VersionOf(const std::string& storedPath) {
-  const std::vector<uint8_t> bytes = ReadBytes(Host(storedPath));
-  return bytes.size() < 4 ? 0 : bytes[0] | bytes[1] << 8 | bytes[2] << 16 | static_cast<uint32_t>(bytes[3]) << 24;
+  const std::vector<uint8_t> bytes = ReadBytes(HostPath(storedPath));
+  return bytes.size() < 4 ? 0 : ReadLittle(bytes.data(), 4);
 }
 
 void SetVersion(const std::string& storedPath, uint32_t version) {
-  std::vector<uint8_t> bytes = ReadBytes(Host(storedPath));
-  for (int i = 0; i < 4; ++i) bytes[static_cast<size_t>(i)] = static_cast<uint8_t>(version >> (8 * i));
-  WriteBytes(Host(storedPath), bytes);
+  std::vector<uint8_t> bytes = ReadBytes(HostPath(storedPath));
+  StoreLittle(bytes.data(), version, 4);
+  WriteBytes(HostPath(storedPath), bytes);
 }
 
 // The sample project, with the editor's globals as a fresh start has them.
@@ -135,32 +132,32 @@ TEST_F(ProjectLoadTest, FirstFileMissingStopsTheLoadWithItsName) {
                                     ePath::CommonPalette, ePath::PrjOption, ePath::WorldMap};
   for (ePath file : files) {
     const std::string& path = PathOf(file);
-    const std::vector<uint8_t> kept = ReadBytes(Host(path));
-    fs::remove(Host(path));
+    const std::vector<uint8_t> kept = ReadBytes(HostPath(path));
+    fs::remove(HostPath(path));
     EXPECT_EQ(Formatted(kMissingText, path), FailureOf(path));
-    WriteBytes(Host(path), kept);
+    WriteBytes(HostPath(path), kept);
   }
   // Two files missing: the one read first is named.
-  fs::remove(Host(PathOf(ePath::WorldMap)));
-  fs::remove(Host(PathOf(ePath::System)));
+  fs::remove(HostPath(PathOf(ePath::WorldMap)));
+  fs::remove(HostPath(PathOf(ePath::System)));
   EXPECT_EQ(Formatted(kMissingText, PathOf(ePath::System)), FailureOf("two"));
 }
 
 TEST_F(ProjectLoadTest, NewerFileIsRefusedWithItsOwnTextAndLeftUntouched) {
   const std::string& path = PathOf(ePath::Sound);
   SetVersion(path, 951);
-  const std::vector<uint8_t> before = ReadBytes(Host(path));
+  const std::vector<uint8_t> before = ReadBytes(HostPath(path));
   EXPECT_EQ(Formatted(kTooNewText, path), FailureOf(path));
-  EXPECT_EQ(before, ReadBytes(Host(path)));
+  EXPECT_EQ(before, ReadBytes(HostPath(path)));
 }
 
 TEST_F(ProjectLoadTest, OnlyFilesUpgradedFromOlderVersionsAreWrittenBack) {
   // Version 900 has today's layout for these files.
   for (ePath file : {ePath::Bgm, ePath::WorldMap, ePath::GValInfo}) SetVersion(PathOf(file), 900);
   // Bytes behind the list are never read: a rewrite would drop them.
-  std::vector<uint8_t> sound = ReadBytes(Host(PathOf(ePath::Sound)));
+  std::vector<uint8_t> sound = ReadBytes(HostPath(PathOf(ePath::Sound)));
   sound.push_back(0x5A);
-  WriteBytes(Host(PathOf(ePath::Sound)), sound);
+  WriteBytes(HostPath(PathOf(ePath::Sound)), sound);
 
   // An open that fails on a picture, after every file was read, writes nothing.
   const std::vector<uint8_t> block = ReadBytes("bmp/Block.bmp");
@@ -173,7 +170,7 @@ TEST_F(ProjectLoadTest, OnlyFilesUpgradedFromOlderVersionsAreWrittenBack) {
   EXPECT_EQ(950u, VersionOf(PathOf(ePath::Bgm)));
   EXPECT_EQ(950u, VersionOf(PathOf(ePath::WorldMap)));
   EXPECT_EQ(900u, VersionOf(PathOf(ePath::GValInfo)));
-  EXPECT_EQ(sound, ReadBytes(Host(PathOf(ePath::Sound))));
+  EXPECT_EQ(sound, ReadBytes(HostPath(PathOf(ePath::Sound))));
 }
 
 TEST_F(ProjectLoadTest, MissingCharacterPictureIsToldAndTheProjectStillOpens) {
@@ -189,8 +186,8 @@ TEST_F(ProjectLoadTest, MissingCharacterPictureIsToldAndTheProjectStillOpens) {
 
 TEST_F(ProjectLoadTest, ExitKeepsTheLastStageAndNamesOnlyAfterAFullStart) {
   ASSERT_TRUE(LoadProject());
-  const std::vector<uint8_t> config = ReadBytes(Host(PathOf(ePath::EditConfig)));
-  const std::vector<uint8_t> names = ReadBytes(Host(PathOf(ePath::GValInfo)));
+  const std::vector<uint8_t> config = ReadBytes(HostPath(PathOf(ePath::EditConfig)));
+  const std::vector<uint8_t> names = ReadBytes(HostPath(PathOf(ePath::GValInfo)));
   g_vecCommonVar[5].m_strName = "hp";
   StageEdit().m_strPath = "data\\stg4\\Stage2.stg4_950";
   EditConfig edit;
@@ -198,8 +195,8 @@ TEST_F(ProjectLoadTest, ExitKeepsTheLastStageAndNamesOnlyAfterAFullStart) {
   EXPECT_FALSE(SaveOnExit(edit, false));
   g_bNoSave = 1;
   EXPECT_FALSE(SaveOnExit(edit, true));
-  EXPECT_EQ(config, ReadBytes(Host(PathOf(ePath::EditConfig))));
-  EXPECT_EQ(names, ReadBytes(Host(PathOf(ePath::GValInfo))));
+  EXPECT_EQ(config, ReadBytes(HostPath(PathOf(ePath::EditConfig))));
+  EXPECT_EQ(names, ReadBytes(HostPath(PathOf(ePath::GValInfo))));
 
   g_bNoSave = 0;
   EXPECT_TRUE(SaveOnExit(edit, true));

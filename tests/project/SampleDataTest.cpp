@@ -2,6 +2,7 @@
 
 #include "core/ProjectPaths.h"
 #include "inspect/Inspector.h"
+#include "platform/HostPath.h"
 #include "platform/TextCodec.h"
 #include "project/Database.h"
 #include "project/SampleData.h"
@@ -14,11 +15,6 @@ namespace {
 
 using testing::cTempProject;
 using testing::ReadBytes;
-
-std::string Host(std::string stored) {
-  for (char& c : stored) c = c == '\\' ? '/' : c;
-  return stored;
-}
 
 class SampleDataTest : public ::testing::Test {
  protected:
@@ -67,10 +63,10 @@ TEST_F(SampleDataTest, InspectorDumpsAndResavesEveryProjectWideFile) {
   for (int i = 0; i < kDbListCount; ++i) names.push_back(PathOf(DbListInfo(static_cast<eDbList>(i)).file));
   for (const std::string& name : names) {
     std::string out, err;
-    ASSERT_EQ(0, inspect::RunInspector({"dump", Host(name)}, out, err)) << name << err;
+    ASSERT_EQ(0, inspect::RunInspector({"dump", HostPath(name)}, out, err)) << name << err;
     EXPECT_NE(std::string::npos, out.find("\"version\": 950")) << name;
-    ASSERT_EQ(0, inspect::RunInspector({"resave", Host(name), "copy.dat"}, out, err)) << name << err;
-    EXPECT_EQ(ReadBytes(Host(name)), ReadBytes("copy.dat")) << name;
+    ASSERT_EQ(0, inspect::RunInspector({"resave", HostPath(name), "copy.dat"}, out, err)) << name << err;
+    EXPECT_EQ(ReadBytes(HostPath(name)), ReadBytes("copy.dat")) << name;
   }
   std::string out, err;
   inspect::RunInspector({"dump", "data/database/Bgm.dat"}, out, err);

@@ -87,9 +87,9 @@ TEST(DebianMidiFiles, PlayInStepWithFluidSynthsPlayer) {
 TEST(DebianMidiFiles, FlattenToImagesThatFlattenToThemselves) {
   int flattened = 0;
   for (const char* song : kSongs) {
-    std::vector<uint8_t> bytes;
-    if (!ReadSoundFile(std::string(kSongFolder) + "/" + song, bytes)) continue;
-    std::vector<uint8_t> image = FlattenSmf(bytes.data(), bytes.size(), song);
+    cWholeFile file;
+    if (!ReadSoundFile(std::string(kSongFolder) + "/" + song, file)) continue;
+    std::vector<uint8_t> image = FlattenSmf(file.data.get(), file.size, song);
     ASSERT_FALSE(image.empty()) << song;
     EXPECT_EQ(FlattenSmf(image.data(), image.size(), song), image) << song << " as format 0";
     ++flattened;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/Log.h"
+#include "platform/ByteOrder.h"
 #include "platform/MidiOutputDevice.h"
 #include "platform/MidiRecordingSink.h"
 #include "platform/MidiStream.h"
@@ -49,7 +50,7 @@ inline std::vector<cTimedEvent> ImageEvents(const std::vector<uint8_t>& image) {
   return events;
 }
 
-inline uint32_t WordAt(const uint8_t* p) { return p[0] | p[1] << 8 | p[2] << 16 | static_cast<uint32_t>(p[3]) << 24; }
+inline uint32_t WordAt(const uint8_t* p) { return ReadLittle(p, 4); }
 
 // A stream event read back out of a buffer.
 struct cBufferEvent {

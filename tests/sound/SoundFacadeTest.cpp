@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "MidiTestSupport.h"
+#include "core/SaveData.h"
 #include "sound/MusicPlayer.h"
 #include "sound/SampleSounds.h"
 #include "sound/SoundFile.h"
@@ -32,12 +33,13 @@ TEST_F(SoundFacadeTest, TheSampleSoundsAreWhatTheGameReads) {
   EXPECT_EQ(wave.channels, 1);
   EXPECT_GT(wave.Frames(), 2000u);
 
-  std::vector<uint8_t> midi;
+  cWholeFile midi;
   ASSERT_TRUE(ReadSoundFile("bgm\\Free.mid", midi));
-  EXPECT_EQ(midi[9], 1) << "format 1";
-  EXPECT_EQ(midi[11], 2) << "two tracks";
+  ASSERT_GT(midi.size, 11u);
+  EXPECT_EQ(midi.data[9], 1) << "format 1";
+  EXPECT_EQ(midi.data[11], 2) << "two tracks";
   int tempos = 0;
-  for (const cTimedEvent& event : ImageEvents(FlattenSmf(midi.data(), midi.size(), "Free.mid"))) {
+  for (const cTimedEvent& event : ImageEvents(FlattenSmf(midi.data.get(), midi.size, "Free.mid"))) {
     tempos += event.bytes[0] == 0xFF && event.bytes[1] == 0x51;
   }
   EXPECT_EQ(tempos, 2);
@@ -68,6 +70,19 @@ TEST_F(SoundFacadeTest, SetTrackSortsByExactExtension) {
     EXPECT_STREQ(ogg[0].path, c.oggRow) << c.path;
     EXPECT_STREQ(midi[0].path, c.midiRow) << c.path;
   }
+  player.Shutdown();
+}
+
+TEST_F(SoundFacadeTest, ATrackBeyondTheTablesTakesTheBadIndexStopAndRowZero) {
+  cOggTrackRow ogg[2] = {{"zero.ogg", 7}, {"beyond.ogg", 7}};
+  cMidiTrackRow midi[2] = {{"zero.mid", 7}, {"beyond.mid", 7}};
+  cMusicPlayer player;
+  player.Init(1, ogg, midi, 1, 1);  // one track: the second rows are not the player's
+  EXPECT_EQ(player.SetTrack(1, "bgm\\late.ogg", 40), 1);
+  EXPECT_EQ(g_bNoSave, 1);
+  EXPECT_STREQ(ogg[0].path, "bgm\\late.ogg");
+  EXPECT_STREQ(ogg[1].path, "beyond.ogg");
+  g_bNoSave = 0;
   player.Shutdown();
 }
 

@@ -33,7 +33,7 @@ TEST_F(BitmapLoad, ReadsImageMagickBitmapsPixelForPixel) {
   cSurface indexed;
   ASSERT_TRUE(indexed.LoadSimple("p8.bmp", 8, 0, 0, 0, 0, 0, 1));
   cColourTable filePalette{};
-  ASSERT_TRUE(cSurface::LoadPalette(filePalette, "p8.bmp"));
+  ASSERT_TRUE(ReadBitmapPalette(filePalette, "p8.bmp"));
   ASSERT_EQ(indexed.Width(), 13);
   ASSERT_EQ(indexed.Height(), 7);
   ASSERT_EQ(indexed.Depth(), 8);
@@ -79,8 +79,8 @@ TEST_F(BitmapLoad, RefusesOtherDepthsAndMissingFiles) {
 
   // The palette of a 4-bit file is still readable: its 16 entries.
   cColourTable table{};
-  EXPECT_TRUE(cSurface::LoadPalette(table, "p4.bmp"));
-  EXPECT_FALSE(cSurface::LoadPalette(table, "bmp\\none.bmp"));
+  EXPECT_TRUE(ReadBitmapPalette(table, "p4.bmp"));
+  EXPECT_FALSE(ReadBitmapPalette(table, "bmp\\none.bmp"));
 }
 
 // Every damaged form gives a clear failure and leaves the surface empty.

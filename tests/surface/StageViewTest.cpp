@@ -81,34 +81,34 @@ class StageView : public ::testing::Test {
 
 TEST_F(StageView, EachPictureKindComesFromItsSheetCell) {
   // Block 17: column 1, row 2 of the block sheet.
-  DrawObject(view, 64, 32, cObjectLook{kPictureBlock, 17}, false);
+  DrawObject(view, 64, 32, cObjectLook{kGraphicKindBlock, 17}, false);
   expected.Blt(64, 32, 32, 32, FixedBitmap(kFixedBlock), 32, 64, false);
   // Character 20 facing the other way at column 3: second group's mirrored sheet.
-  DrawObject(view, 128, 32, cObjectLook{kPictureChara, 20, 3, 1}, false);
+  DrawObject(view, 128, 32, cObjectLook{kGraphicKindChara, 20, 3, 1}, false);
   expected.Blt(128, 32, 32, 32, FixedBitmap(kFixedCharaFirst + 3), 96, 160, false);
   // Item 16 at half size: the mini sheet, unscaled, in the top right quarter.
-  DrawObject(view, 0, 96, cObjectLook{kPictureItem, 16}, true);
+  DrawObject(view, 0, 96, cObjectLook{kGraphicKindItem, 16}, true);
   expected.Blt(16, 96, 16, 16, FixedBitmap(kFixedItemMini), 32, 16, false);
   // Item 16 at full size: 64-dot columns.
-  DrawObject(view, 32, 96, cObjectLook{kPictureItem, 16}, false);
+  DrawObject(view, 32, 96, cObjectLook{kGraphicKindItem, 16}, false);
   expected.Blt(32, 96, 32, 32, FixedBitmap(kFixedItem), 64, 32, false);
   // Shot 31: column 1, row 1 of 16 dots, centred in the cell.
-  DrawObject(view, 96, 96, cObjectLook{kPictureShot, 31, 0, 1}, false);
+  DrawObject(view, 96, 96, cObjectLook{kGraphicKindShot, 31, 0, 1}, false);
   expected.Blt(104, 104, 16, 16, FixedBitmap(kFixedShotMirrored), 32, 16, false);
   // A character's own bitmap, the other facing, its third cell; then a mark on top.
-  DrawObject(view, 160, 96, cObjectLook{kPictureOwnBitmap, 1, 2, 1, 16}, false);
+  DrawObject(view, 160, 96, cObjectLook{kGraphicKindOwnBmp, 1, 2, 1, 16}, false);
   expected.Blt(160, 96, 32, 32, CharaBitmaps()[1].second, 0, 64, false);
   expected.Blt(160, 96, 32, 32, FixedBitmap(kFixedMark), 32, 32, false);
   // Nothing for number 0, an own bitmap beyond the list or a group beyond the sheets.
-  DrawObject(view, 200, 200, cObjectLook{kPictureBlock, 0}, false);
-  DrawObject(view, 200, 200, cObjectLook{kPictureOwnBitmap, 5}, false);
-  DrawObject(view, 200, 200, cObjectLook{kPictureChara, 120}, false);
+  DrawObject(view, 200, 200, cObjectLook{kGraphicKindBlock, 0}, false);
+  DrawObject(view, 200, 200, cObjectLook{kGraphicKindOwnBmp, 5}, false);
+  DrawObject(view, 200, 200, cObjectLook{kGraphicKindChara, 120}, false);
   EXPECT_TRUE(Same());
 }
 
 TEST_F(StageView, PlacedRecordsChooseColumnAndFacing) {
   cEdBlock block;
-  block.m_nGraphicKind = kPictureChara;
+  block.m_nGraphicKind = kGraphicKindChara;
   block.m_nGraphicNo = 2;
   block.m_nGraphicFrame = 23;
   const cObjectLook blockLook = LookOf(block);

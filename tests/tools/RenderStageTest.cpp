@@ -4,6 +4,7 @@
 
 #include "core/SaveData.h"
 #include "inspect/Inspector.h"
+#include "platform/ByteOrder.h"
 #include "sample/SampleProject.h"
 #include "support/TempProject.h"
 #include "ui/surface/CharaBitmaps.h"
@@ -11,11 +12,6 @@
 
 namespace velmora {
 namespace {
-
-uint32_t BigEndianAt(const std::vector<uint8_t>& bytes, size_t offset) {
-  return static_cast<uint32_t>(bytes[offset] << 24 | bytes[offset + 1] << 16 | bytes[offset + 2] << 8 |
-                               bytes[offset + 3]);
-}
 
 class RenderStageTest : public ::testing::Test {
  protected:
@@ -35,15 +31,15 @@ TEST_F(RenderStageTest, DrawsTheWholeStageOrAnAreaOfCells) {
   const std::vector<uint8_t> whole = testing::ReadBytes("whole.png");
   ASSERT_GT(whole.size(), 24u);
   EXPECT_EQ(std::string(whole.begin() + 12, whole.begin() + 16), "IHDR");
-  EXPECT_EQ(BigEndianAt(whole, 16), 60u * 32);  // the sample's first stage is 60 x 15
-  EXPECT_EQ(BigEndianAt(whole, 20), 15u * 32);
+  EXPECT_EQ(ReadBig(whole.data() + 16, 4), 60u * 32);  // the sample's first stage is 60 x 15
+  EXPECT_EQ(ReadBig(whole.data() + 20, 4), 15u * 32);
 
   ASSERT_EQ(0, inspect::RunInspector({"render", "data/stg4/Stage1.stg4_950", "part.png", "10", "2", "3", "4"}, out,
                                      err))
       << err;
   const std::vector<uint8_t> part = testing::ReadBytes("part.png");
-  EXPECT_EQ(BigEndianAt(part, 16), 96u);
-  EXPECT_EQ(BigEndianAt(part, 20), 128u);
+  EXPECT_EQ(ReadBig(part.data() + 16, 4), 96u);
+  EXPECT_EQ(ReadBig(part.data() + 20, 4), 128u);
 }
 
 TEST_F(RenderStageTest, RefusesBadAreasAndMissingFiles) {

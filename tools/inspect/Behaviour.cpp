@@ -23,21 +23,14 @@ struct cBehaviourSource {
   cPaletteLists lists;
 };
 
-template <class T>
-bool LoadPaletteOwner(const std::string& storedPath, cBehaviourSource& source) {
+// `ListsOf` names the lists of the owner's palette; a stage shows the
+// entries of its own.
+template <class T, auto ListsOf>
+bool LoadListsOwner(const std::string& storedPath, cBehaviourSource& source) {
   auto record = std::make_unique<T>();
   if (!record->LoadFile(storedPath)) return false;
-  source.lists = record->Lists();
+  source.lists = (record.get()->*ListsOf)();
   source.owner = std::move(record);
-  return true;
-}
-
-// A stage shows the entries of its own palette.
-bool LoadStageOwner(const std::string& storedPath, cBehaviourSource& source) {
-  auto stage = std::make_unique<cStage>();
-  if (!stage->LoadFile(storedPath)) return false;
-  source.lists = stage->Palette();
-  source.owner = std::move(stage);
   return true;
 }
 
@@ -50,9 +43,9 @@ struct cBehaviourKind {
 };
 
 constexpr cBehaviourKind kBehaviourKinds[] = {
-    {"CommonPalette", ePalette::Common, &LoadPaletteOwner<cPalette>},
-    {"StagePalette", ePalette::Stage, &LoadPaletteOwner<cStagePaletteFile>},
-    {"Stage", ePalette::Stage, &LoadStageOwner},
+    {"CommonPalette", ePalette::Common, &LoadListsOwner<cPalette, &cPalette::Lists>},
+    {"StagePalette", ePalette::Stage, &LoadListsOwner<cStagePaletteFile, &cStagePaletteFile::Lists>},
+    {"Stage", ePalette::Stage, &LoadListsOwner<cStage, &cStage::Palette>},
 };
 
 const cBehaviourKind* FindBehaviourKind(const std::string& path) {

@@ -6,6 +6,7 @@
 #include "inspect/PngFile.h"
 #include "platform/HostPath.h"
 #include "project/Database.h"
+#include "project/ProjectLoad.h"
 #include "stage/Stage.h"
 #include "ui/stageview/StageView.h"
 #include "ui/surface/CharaBitmaps.h"
@@ -34,14 +35,6 @@ bool ParseArea(const std::vector<std::string>& args, const cStage& stage, cCellA
   return args.size() == 7 && ParseInt(args[3], area.x) && ParseInt(args[4], area.y) && ParseInt(args[5], area.w) &&
          ParseInt(args[6], area.h) && area.w >= 1 && area.h >= 1 && area.w <= kMaxStageSize &&
          area.h <= kMaxStageSize;
-}
-
-std::vector<cCharaBitmapSource> CharaBitmapSources() {
-  std::vector<cCharaBitmapSource> list;
-  for (const cEdCharaBmp& entry : Database().m_CharaBmp.m_vecEntries) {
-    list.push_back({entry.m_strPath, entry.m_bHuge ? kCellDots * entry.m_iHugeSize : kCellDots});
-  }
-  return list;
 }
 
 // What the stage window draws with; a missing database only costs the

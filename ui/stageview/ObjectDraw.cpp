@@ -30,7 +30,7 @@ struct cKindLayout {
   cPlacement full;
   cPlacement half;
 };
-constexpr std::array<cKindLayout, kPictureKindCount> kLayouts = {{
+constexpr std::array<cKindLayout, kGraphicKindCount> kLayouts = {{
     {{0, 0, kCell, false}, {kHalf, 0, kHalf, true}},          // block
     {{0, 0, kCell, false}, {kHalf, 0, kHalf, true}},          // character
     {{0, 0, kCell, false}, {kHalf, 0, kHalf, false}},         // item, from the mini sheet
@@ -71,7 +71,7 @@ cSourceCell OwnBitmapCell(const cObjectLook& look, bool) {
 }
 
 using cCellFinder = cSourceCell (*)(const cObjectLook&, bool);
-constexpr std::array<cCellFinder, kPictureKindCount> kCellFinders = {BlockCell, CharaCell, ItemCell, ShotCell,
+constexpr std::array<cCellFinder, kGraphicKindCount> kCellFinders = {BlockCell, CharaCell, ItemCell, ShotCell,
                                                                      OwnBitmapCell};
 
 void Put(cSurface& out, int x, int y, const cSourceCell& from, const cPlacement& place) {
@@ -93,7 +93,7 @@ void DrawMark(cSurface& out, int x, int y, int mark, bool half) {
 // frame chooses it.
 cObjectLook FramedLook(int kind, int number, int frame, int markShow, int markNo) {
   cObjectLook look{kind, number, frame, 0, markShow ? markNo : -1};
-  if ((kind == kPictureChara || kind == kPictureOwnBitmap) && frame >= kOtherFacingColumn) {
+  if ((kind == kGraphicKindChara || kind == kGraphicKindOwnBmp) && frame >= kOtherFacingColumn) {
     look.column = frame - kOtherFacingColumn;
     look.facing = 1;
   }
@@ -128,7 +128,7 @@ cObjectLook LookOf(const cEdChara& chara, const std::vector<cEdAnimeSet>& animeS
 }
 
 void DrawObject(cSurface& out, int x, int y, const cObjectLook& look, bool half) {
-  if (look.number > 0 && look.kind >= 0 && look.kind < kPictureKindCount) {
+  if (look.number > 0 && look.kind >= 0 && look.kind < kGraphicKindCount) {
     const size_t kind = static_cast<size_t>(look.kind);
     Put(out, x, y, kCellFinders[kind](look, half), half ? kLayouts[kind].half : kLayouts[kind].full);
   }

@@ -4,17 +4,15 @@
 #include "objects/Block.h"
 #include "objects/Chara.h"
 #include "objects/Item.h"
+#include "objects/PaletteTables.h"
 #include "project/AnimeRecords.h"
 #include "ui/surface/Surface.h"
 
 namespace velmora {
 
-// Picture kinds, by stored value of a record's graphic kind.
-enum ePictureKind { kPictureBlock, kPictureChara, kPictureItem, kPictureShot, kPictureOwnBitmap, kPictureKindCount };
-
 // What one placed object shows: a picture, and a mark on top.
 struct cObjectLook {
-  int kind = kPictureBlock;
+  int kind = kGraphicKindBlock;
   int number = 0;  // 0 shows no picture
   int column = 0;  // cell column on character sheets and own bitmaps
   int facing = 0;  // 1 picks the other facing's sheet

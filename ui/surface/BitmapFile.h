@@ -1,10 +1,10 @@
 #pragma once
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
+#include "platform/WholeFile.h"
 #include "ui/surface/Colour.h"
 
 namespace velmora {
@@ -29,15 +29,9 @@ inline constexpr size_t kBitmapHeadersSize = kBitmapFileHeaderSize + kBitmapInfo
 // False when fewer than the two headers' bytes are given.
 bool ParseBitmapHeader(const uint8_t* data, size_t size, cBitmapHeader& header);
 
-// A whole file in memory. Bitmaps are read whole, so a damaged header can
-// never make the reader ask for more memory than the file itself holds.
-struct cFileBytes {
-  std::unique_ptr<uint8_t[]> data;
-  size_t size = 0;
-};
-
-enum class eReadResult { Ok, Missing, TooLarge, OutOfMemory };
-eReadResult ReadWholeFile(const std::string& stored, cFileBytes& out);
+// Bitmaps are read whole, so a damaged header can never make the reader ask
+// for more memory than the file itself holds.
+eReadResult ReadBitmapFile(const std::string& stored, cWholeFile& out);
 
 // Reads only the colour table: 256 entries for 8 bits, 16 for 4, 2 for 1,
 // or the colours-used count when that is set; entries beyond 256 are not

@@ -24,12 +24,9 @@ cColourTable& SourcePalette() { return g_sourcePalette; }
 int TransparentIndex() { return g_transparentIndex; }
 int SolidIndex() { return g_solidIndex; }
 
-void StoreTransparentColour(cColourRef colour) { g_transparentIndex = FirstIndexOf(colour); }
-void StoreSolidColour(cColourRef colour) { g_solidIndex = FirstIndexOf(colour); }
-
 void DeriveMaskIndices() {
-  StoreTransparentColour(ColourOf(g_palette[0]));
-  StoreSolidColour(ColourOf(g_palette[15]));
+  g_transparentIndex = FirstIndexOf(ColourOf(g_palette[0]));
+  g_solidIndex = FirstIndexOf(ColourOf(g_palette[15]));
 }
 
 cColourRef TransparentColour() { return ColourOf(g_palette[0]); }

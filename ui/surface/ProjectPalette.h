@@ -15,8 +15,6 @@ cColourTable& SourcePalette();
 // the mask builder and the masked copies work with these.
 int TransparentIndex();
 int SolidIndex();
-void StoreTransparentColour(cColourRef colour);
-void StoreSolidColour(cColourRef colour);
 // Sets both indices from entries 0 and 15, as a freshly read palette wants.
 void DeriveMaskIndices();
 

@@ -69,10 +69,6 @@ class cSurface {
   bool CreateSurface(int width, int height, int depth, bool bMask, int cellWidth = 0, int cellHeight = 0);
   void Free();
 
-  static bool LoadPalette(cColourTable& out, const std::string& name);
-  static void SetTransparentColour(cColourRef colour);
-  static void SetSolidColour(cColourRef colour);
-
   void Blt(int x, int y, int w, int h, const cSurface& source, int sx, int sy, bool bOpaque);
   void StretchBltFrom(int x, int y, int w, int h, const cSurface& source, int sx, int sy, int sw, int sh,
                       bool bOpaque);
@@ -101,7 +97,6 @@ class cSurface {
   const cPixelImage& Image() const { return m_image; }
   cPixelImage& Mask() { return m_mask; }
   const cPixelImage& Mask() const { return m_mask; }
-  const std::optional<cFontChoice>& Font() const { return m_font; }
   const cPen& Pen() const { return m_pen; }
   bool TransparentBackground() const { return m_transparentBackground; }
 

@@ -84,8 +84,8 @@ eSurfaceLoad cSurface::TryLoad(const cSurfaceSpec& request) {
     bool made = CreateSurface(request.blankWidth, request.blankHeight, request.depth, request.bMask != 0);
     return made ? eSurfaceLoad::Ok : eSurfaceLoad::CannotRead;
   }
-  cFileBytes file;
-  switch (ReadWholeFile(request.name, file)) {
+  cWholeFile file;
+  switch (ReadBitmapFile(request.name, file)) {
     case eReadResult::Ok:
       return TryLoadFromMemory(request, file.data.get(), file.size);
     case eReadResult::OutOfMemory:
@@ -246,11 +246,5 @@ void cSurface::Free() {
   m_cellWidth = 0;
   m_cellHeight = 0;
 }
-
-bool cSurface::LoadPalette(cColourTable& out, const std::string& name) { return ReadBitmapPalette(out, name); }
-
-void cSurface::SetTransparentColour(cColourRef colour) { StoreTransparentColour(colour); }
-
-void cSurface::SetSolidColour(cColourRef colour) { StoreSolidColour(colour); }
 
 }  // namespace velmora

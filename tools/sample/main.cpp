@@ -5,10 +5,20 @@
 #include "sample/SampleGame.h"
 #include "sample/SampleProject.h"
 
+namespace {
+constexpr const char* kUsage = "usage: velmora-make-sample [--fresh] DIR\n";
+}
+
 int main(int argc, char** argv) {
+  if (argc == 2 && std::strcmp(argv[1], "--help") == 0) {
+    std::fputs(kUsage, stdout);
+    return 0;
+  }
   const bool fresh = argc == 3 && std::strcmp(argv[1], "--fresh") == 0;
-  if (argc != 2 && !fresh) {
-    std::fputs("usage: velmora-make-sample [--fresh] DIR\n", stderr);
+  // An option the tool doesn't know must not become a project folder.
+  const bool folderOnly = argc == 2 && argv[1][0] != '-';
+  if (!folderOnly && !fresh) {
+    std::fputs(kUsage, stderr);
     return 2;
   }
   std::string error;

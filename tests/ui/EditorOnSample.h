@@ -28,10 +28,18 @@ class cEditorOnSample : public ::testing::Test {
     ASSERT_TRUE(sample::MakeSampleProject(project.Path(), false, error)) << error;
     otherEditor = HoldEditorLock();
     ASSERT_NE(otherEditor, nullptr);
-    prompt.QueueAnswer(eAnswer::Yes);  // the double-start question
+    StartEditor();
+    ASSERT_NE(app->StageWindow()->Palettes(), nullptr);
+  }
+  // The test holds the editor's lock itself, so every start meets the
+  // double-start question, whatever else runs beside it, and goes on.
+  void StartEditor() {
+    app.reset();
+    prompt.QueueAnswer(eAnswer::Yes);
     app = std::make_unique<cEditorApp>(&prompt);
     ASSERT_TRUE(app->Start());
-    ASSERT_NE(app->StageWindow()->Palettes(), nullptr);
+    ASSERT_FALSE(prompt.Shown().empty());
+    EXPECT_EQ(prompt.Shown().front().caption, "二重起動");
   }
   void TearDown() override {
     app.reset();

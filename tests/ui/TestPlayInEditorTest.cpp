@@ -123,12 +123,9 @@ bool WaitReadable(int fd, int timeoutMs) {
 }
 
 TEST_F(TestPlayInTheEditor, TheStandinGamePlaysTheSavedStageAndTheEditorBuildsItsHistoryAnew) {
-  SetTestPlayHost(nullptr);
-  app.reset();  // the editor comes up again with its own host and the game beside it
+  // The editor comes up again with its own host and the game beside it.
   std::filesystem::copy_file(VELMORA_STANDIN_GAME, "velmora-standin-game");
-  prompt.QueueAnswer(eAnswer::Yes);
-  app = std::make_unique<cEditorApp>(&prompt);
-  ASSERT_TRUE(app->Start());
+  StartEditor();
   ProjectOption().m_bAutoGame = 1;
   // The game reports to a channel of the test's, so that no editor running
   // beside the tests hears it; the editor takes it as from its own.

@@ -57,7 +57,7 @@ bool FindVersioned(std::string& out, const std::string& path, const std::string&
   const std::string folder = FolderOf(stem);
   const std::string name = stem.substr(folder.size());
   // One look at the folder serves all thousand candidates.
-  const std::vector<cDirEntry> entries = ListDirectory(folder.empty() ? std::string(".") : folder);
+  const std::vector<cDirEntry> entries = ListDirectory(folder);
   for (int suffix = 999; suffix >= 0; --suffix) {
     char candidate[16];
     std::snprintf(candidate, sizeof candidate, "_%d%d%d", suffix / 100, suffix / 10 % 10, suffix % 10);

@@ -111,7 +111,8 @@ bool CopyTree(const std::string& from, const std::string& to) {
 std::vector<cDirEntry> ListDirectory(const std::string& stored) {
   std::vector<cDirEntry> entries;
   std::string host = HostPath(stored);
-  DIR* dir = ::opendir(host.empty() ? "." : host.c_str());
+  if (host.empty()) host = ".";
+  DIR* dir = ::opendir(host.c_str());
   if (!dir) return entries;
   while (dirent* entry = ::readdir(dir)) {
     std::string name = entry->d_name;

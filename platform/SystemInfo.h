@@ -12,7 +12,7 @@ struct cSystemFacts {
   int osMinor = 0;
   std::string cpuVendor;
   std::string cpuBrand;
-  int cpuMhz = 0;           // as the kernel reports it; no busy wait
+  int cpuMhz = 0;           // as the kernel reports it, else the top cpufreq; no busy wait
   uint64_t memTotal = 0;    // bytes
   uint64_t memFree = 0;
   uint64_t swapTotal = 0;
@@ -21,5 +21,11 @@ struct cSystemFacts {
 };
 
 cSystemFacts ReadSystemFacts();
+
+// Vendor, brand and clock from the text of /proc/cpuinfo. Machines name
+// these differently ("model name" on x86, "Processor" or "Hardware" on
+// ARM, "cpu" on POWER, "uarch" on RISC-V); the first key found in the
+// table's order wins, and a missing vendor or brand takes what is there.
+void ParseCpuInfo(const std::string& text, cSystemFacts& facts);
 
 }  // namespace velmora

@@ -43,24 +43,28 @@ bool ReadPaletteFile(const std::string& path) {
   return true;
 }
 
+// The progress window goes before the error shows.
+eNewStageResult FailWith(const char* format, const std::string& path) {
+  Prompt().CloseMessageWindow();
+  ErrorBox(format, path.c_str());
+  return eNewStageResult::Failed;
+}
+
 }  // namespace
 
-int CreateNewStage(const std::string& templatePath, int paletteSource, const std::string& palettePath) {
+eNewStageResult CreateNewStage(const std::string& templatePath, int paletteSource, const std::string& palettePath) {
   cStageEdit& edit = StageEdit();
   if (edit.m_bHasStage &&
       Prompt().Ask(nullptr, SysText("新規作成の確認"), SysText("現在のステージは破棄されます。\n新規作成しますか？\n"),
                    eButtons::YesNo, eIcon::Question) != eAnswer::Yes) {
-    return 0;
+    return eNewStageResult::Kept;
   }
+  Prompt().ShowMessageWindow(nullptr, SysText("ステージの新規作成"), SysText("ステージを作成しています..."));
   if (paletteSource == kNewPaletteFromFile && !FileExists(palettePath)) {
-    ErrorBox(SysText("ステージパレットファイル %s が見つかりません！"), palettePath.c_str());
-    return 0;
+    return FailWith(SysText("ステージパレットファイル %s が見つかりません！"), palettePath);
   }
   ClearHistory();
-  if (!ReadTemplate(templatePath)) {
-    ErrorBox(SysText("ステージファイル %s が見つかりません！"), templatePath.c_str());
-    return 0;
-  }
+  if (!ReadTemplate(templatePath)) return FailWith(SysText("ステージファイル %s が見つかりません！"), templatePath);
   cStage& stage = EditStage();
   switch (paletteSource) {
     case kNewPaletteEmpty:
@@ -75,9 +79,10 @@ int CreateNewStage(const std::string& templatePath, int paletteSource, const std
       break;
     case kNewPaletteFromFile:
       if (!ReadPaletteFile(palettePath)) {
+        Prompt().CloseMessageWindow();
         g_bNoSave = 1;
         AppControl().DestroyMainWindow();
-        return 0;
+        return eNewStageResult::Failed;
       }
       break;
     default:
@@ -88,7 +93,8 @@ int CreateNewStage(const std::string& templatePath, int paletteSource, const std
   edit.m_strPath.clear();
   edit.m_bStageChanged = 0;
   RebuildHistory();
-  return 1;
+  Prompt().CloseMessageWindow();
+  return eNewStageResult::Created;
 }
 
 }  // namespace velmora

@@ -101,9 +101,14 @@ namespace velmora {
 
 enum eNewStagePalette { kNewPaletteFromTemplate = 0, kNewPaletteEmpty = 1, kNewPaletteFromCommon = 2, kNewPaletteFromFile = 3 };
 
+// What the new-stage dialog does after its OK: close with OK, stay open
+// because the author kept the present stage, or close as cancelled
+// because a file was missing or unreadable (the error was shown).
+enum class eNewStageResult { Created, Kept, Failed };
+
 // The new-stage dialog's OK: the template (any version of it, the newest
 // is read; empty for a default stage) and where the stage palette comes
-// from. 0 leaves the dialog open (the author kept the stage) or cancelled.
-int CreateNewStage(const std::string& templatePath, int paletteSource, const std::string& palettePath);
+// from.
+eNewStageResult CreateNewStage(const std::string& templatePath, int paletteSource, const std::string& palettePath);
 
 }  // namespace velmora

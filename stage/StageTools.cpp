@@ -48,17 +48,11 @@ void LineDown(const cStageInput& in) { StartDrag(StageEdit().m_iLineX, StageEdit
 // Only the first row of the brush is used along a line.
 void DrawLine(const cStageInput& in) {
   const cStageEdit& edit = StageEdit();
-  double px = edit.m_iLineX + 0.5;
-  double py = edit.m_iLineY + 0.5;
-  int column = 0;
-  bool reached = false;
-  for (int n = 0; n < kMaxLineCells; ++n) {
-    const int x = static_cast<int>(px);
-    const int y = static_cast<int>(py);
-    if (InsideStage(x, y)) PlaceCell(EditStage().CellIndex(x, y), column, in.shift);
-    if (reached) break;
-    reached = StepLine(px, py, in.x, in.y);
-    column = column + 1 >= edit.m_iBrushW ? 0 : column + 1;
+  const std::vector<cCellPos> cells = LineCells(edit.m_iLineX, edit.m_iLineY, in.x, in.y);
+  const int brushW = std::max(edit.m_iBrushW, 1);
+  for (size_t n = 0; n < cells.size(); ++n) {
+    if (!InsideStage(cells[n].x, cells[n].y)) continue;
+    PlaceCell(EditStage().CellIndex(cells[n].x, cells[n].y), static_cast<int>(n) % brushW, in.shift);
   }
 }
 
@@ -88,7 +82,7 @@ void DrawRect(const cStageInput& in) {
       const int x = edit.m_iRectX + c;
       const int y = edit.m_iRectY + r;
       if (!InsideStage(x, y)) continue;
-      PlaceCell(EditStage().CellIndex(x, y), (r % edit.m_iBrushH) * edit.m_iBrushW + c % edit.m_iBrushW, in.shift);
+      PlaceCell(EditStage().CellIndex(x, y), TileIndex(c, r, edit.m_iBrushW, edit.m_iBrushH), in.shift);
     }
   }
 }
@@ -156,6 +150,19 @@ bool LeftEvent(const cStageInput& in) {
 }
 
 }  // namespace
+
+std::vector<cCellPos> LineCells(int fromX, int fromY, int toX, int toY) {
+  std::vector<cCellPos> cells;
+  double px = fromX + 0.5;
+  double py = fromY + 0.5;
+  bool reached = false;
+  for (int n = 0; n < kMaxLineCells; ++n) {
+    cells.push_back({static_cast<int>(px), static_cast<int>(py)});
+    if (reached) break;
+    reached = StepLine(px, py, toX, toY);
+  }
+  return cells;
+}
 
 bool StepLine(double& px, double& py, int tx, int ty) {
   int dx = tx - static_cast<int>(px);

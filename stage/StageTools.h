@@ -1,4 +1,7 @@
 #pragma once
+#include <vector>
+
+#include "stage/Stage.h"
 
 namespace velmora {
 
@@ -25,6 +28,16 @@ bool StageMouse(const cStageInput& input);
 // One step of a line from (px, py) towards cell (tx, ty), a tenth of a cell
 // at a time for up to ten rounds. true once the target cell is reached.
 bool StepLine(double& px, double& py, int tx, int ty);
+
+// The cells of a line in the order the line tool writes them, outside the
+// stage too; the n-th takes column n % brush width of the brush's first row.
+std::vector<cCellPos> LineCells(int fromX, int fromY, int toX, int toY);
+
+// The brush record that lands on (column, row) of a rectangle, counted
+// from its top left cell: the brush tiles it from there.
+inline int TileIndex(int column, int row, int brushW, int brushH) {
+  return (row % brushH) * brushW + column % brushW;
+}
 
 // Opens the parameter editor on what stands under the cursor, switching
 // to its layer for as long as the editor is open.

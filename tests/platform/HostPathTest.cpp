@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "platform/FileSystem.h"
@@ -41,6 +42,19 @@ TEST(HostPathTest, FileOperationsWorkOnStoredPaths) {
   EXPECT_TRUE(RemoveFile("WORK\\B.TXT"));
   EXPECT_EQ(1, FileSize("work\\a.txt"));
   EXPECT_EQ(-1, FileSize("work\\none"));
+}
+
+TEST(HostPathTest, EmptyFolderListsTheCurrentDirectory) {
+  cTempProject project;
+  MakeDirs("Stage");
+  WriteText("a.txt", "a");
+  std::vector<cDirEntry> entries = ListDirectory("");
+  std::sort(entries.begin(), entries.end(), [](const cDirEntry& l, const cDirEntry& r) { return l.name < r.name; });
+  ASSERT_EQ(2u, entries.size());
+  EXPECT_EQ("Stage", entries[0].name);
+  EXPECT_TRUE(entries[0].isDirectory);
+  EXPECT_EQ("a.txt", entries[1].name);
+  EXPECT_FALSE(entries[1].isDirectory);
 }
 
 TEST(TextCodecTest, Cp932RoundTripsAndCountsTwoByteCharactersOnce) {

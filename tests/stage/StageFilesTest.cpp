@@ -151,19 +151,26 @@ TEST_F(cStageFilesTest, NewStageReadsTheNewestTemplateAndItsPaletteSource) {
   ASSERT_EQ(1, SaveStage(1));
   StageEdit().m_bHasStage = 1;
 
-  EXPECT_EQ(0, CreateNewStage("", kNewPaletteEmpty, ""));  // the author keeps the open stage
+  const int windowsClosedBefore = m_prompt.ClosedMessageWindows();
+  EXPECT_EQ(eNewStageResult::Kept, CreateNewStage("", kNewPaletteEmpty, ""));
   m_prompt.QueueAnswer(eAnswer::Yes);
-  ASSERT_EQ(1, CreateNewStage("data\\stg4\\a.stg4_700", kNewPaletteFromTemplate, ""));
+  ASSERT_EQ(eNewStageResult::Created, CreateNewStage("data\\stg4\\a.stg4_700", kNewPaletteFromTemplate, ""));
   EXPECT_TRUE(EditStage().HasPlayer());
   EXPECT_EQ(9, EditStage().m_vecBlockPlt[4].m_nGraphicNo);
   EXPECT_TRUE(StageEdit().m_strPath.empty());
 
   m_prompt.QueueAnswer(eAnswer::Yes);
-  ASSERT_EQ(1, CreateNewStage("data\\stg4\\a.stg4_700", kNewPaletteEmpty, ""));
+  ASSERT_EQ(eNewStageResult::Created, CreateNewStage("data\\stg4\\a.stg4_700", kNewPaletteEmpty, ""));
   EXPECT_EQ(2u, EditStage().m_vecBlockPlt.size());
 
   m_prompt.QueueAnswer(eAnswer::Yes);
-  EXPECT_EQ(0, CreateNewStage("", kNewPaletteFromFile, "data\\plt4\\none.plt4"));
+  EXPECT_EQ(eNewStageResult::Failed, CreateNewStage("", kNewPaletteFromFile, "data\\plt4\\none.plt4"));
+  EXPECT_EQ(m_prompt.LastText(), "ステージパレットファイル data\\plt4\\none.plt4 が見つかりません！");
+  m_prompt.QueueAnswer(eAnswer::Yes);
+  EXPECT_EQ(eNewStageResult::Failed, CreateNewStage("data\\stg4\\gone.stg4_950", kNewPaletteEmpty, ""));
+  EXPECT_EQ(m_prompt.LastText(), "ステージファイル data\\stg4\\gone.stg4_950 が見つかりません！");
+  // Every progress window that opened was closed again, the failures' too.
+  EXPECT_EQ(m_prompt.ClosedMessageWindows() - windowsClosedBefore, 4);
 }
 
 }  // namespace

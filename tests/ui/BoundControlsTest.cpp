@@ -108,6 +108,16 @@ TEST_F(BoundControls, InputMethodFullWidthDigitsArriveAsAscii) {
   commit.setCommitString(QString::fromUtf8("１２あ"));
   QApplication::sendEvent(Edit(kIdLife), &commit);
   EXPECT_EQ(Edit(kIdLife)->text(), QStringLiteral("12"));
+  // Half-width characters inside a composition result are dropped; a plain
+  // key handed over by the input method is typed.
+  Retype(kIdLife, QString());
+  QInputMethodEvent mixed;
+  mixed.setCommitString(QString::fromUtf8("5３x"));
+  QApplication::sendEvent(Edit(kIdLife), &mixed);
+  QInputMethodEvent plain;
+  plain.setCommitString(QStringLiteral("4x"));
+  QApplication::sendEvent(Edit(kIdLife), &plain);
+  EXPECT_EQ(Edit(kIdLife)->text(), QStringLiteral("34"));
   // A string edit takes an input method's result as it stands.
   Retype(kIdName, QString());
   QInputMethodEvent kana;

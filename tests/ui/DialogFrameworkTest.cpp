@@ -143,6 +143,33 @@ class cTwoPageSheet : public cSheet {
   }
 };
 
+TEST_F(DialogFramework, SheetScalesItsPagesByTheRateWithoutCuttingControls) {
+  // Each side truncates, the way a float becomes an integer.
+  EXPECT_EQ(cSheet::ScaledTemplate(QSize(100, 100), {0.999, 1.006}), QSize(99, 100));
+  EXPECT_EQ(cSheet::ScaledTemplate(QSize(393, 235), {1.25, 0.8}), QSize(491, 188));
+
+  cSampleRecord second;
+  for (const cSheetRate rate : {cSheetRate{1.5, 0.5}, cSheetRate{1.0, 1.0}}) {
+    manager.SetSheetRate(rate);
+    cTwoPageSheet sheet(manager, record, second);
+    WhenModal([&](QWidget*) {
+      for (int i = 0; i < sheet.PageCount(); ++i) {
+        QWidget* page = sheet.Page(i)->Window();
+        if (rate.x == 1.0) {
+          EXPECT_EQ(page->minimumSize(), QSize(0, 0));  // no rate, no fixed size
+          continue;
+        }
+        const QSize natural = page->sizeHint();
+        EXPECT_EQ(page->size().width(), static_cast<int>(natural.width() * 1.5));
+        EXPECT_EQ(page->size().height(), std::max(natural.height() / 2, page->minimumSizeHint().height()));
+        EXPECT_GE(page->size().height(), page->minimumSizeHint().height());
+      }
+      sheet.Close(0);
+    });
+    EXPECT_EQ(sheet.Start(), 0);
+  }
+}
+
 TEST_F(DialogFramework, SheetAppliesEveryPageOnOk) {
   cSampleRecord second;
   cTwoPageSheet sheet(manager, record, second);

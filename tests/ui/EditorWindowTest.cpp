@@ -5,6 +5,8 @@
 #include <QToolBar>
 #include <QTest>
 #include <QWheelEvent>
+#include <algorithm>
+#include <cstring>
 #include <gtest/gtest.h>
 
 #include "support/ScriptedPrompt.h"
@@ -18,9 +20,11 @@
 #include "sample/SampleProject.h"
 #include "stage/StageEdit.h"
 #include "ui/app/EditorApp.h"
+#include "ui/app/HostWindow.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/DialogWindow.h"
 #include "ui/framework/QtText.h"
+#include "ui/stage/DragPreview.h"
 
 namespace velmora::testing {
 namespace {
@@ -206,6 +210,114 @@ TEST_F(EditorWindow, UndoButtonsFollowTheHistory) {
   EXPECT_FALSE(StageEdit().m_bStageChanged);
   Drag(Qt::LeftButton, {1, 1}, {1, 1});
   EXPECT_TRUE(undo->isEnabled());
+}
+
+// The pixels inside one cell of a view, less its two-dot border where the
+// grid and frames lie.
+std::vector<uint32_t> CellInside(const cSurface& view, int cellX, int cellY) {
+  std::vector<uint32_t> pixels;
+  for (int y = cellY * 32 + 3; y < cellY * 32 + 29; ++y) {
+    for (int x = cellX * 32 + 3; x < cellX * 32 + 29; ++x) {
+      uint32_t pixel = 0;
+      std::memcpy(&pixel, view.Image().Pixel(x, y), sizeof pixel);
+      pixels.push_back(pixel & 0xFFFFFF);
+    }
+  }
+  return pixels;
+}
+
+bool AllBlack(const std::vector<uint32_t>& pixels) {
+  return std::all_of(pixels.begin(), pixels.end(), [](uint32_t p) { return p == 0; });
+}
+
+TEST_F(EditorWindow, LineAndRectangleDragsShowWhatTheReleaseWrites) {
+  cStageEdit& edit = StageEdit();
+  Stage()->ScrollTo(0, 0);
+  edit.m_vecBrushBlock.assign(1, CommonPalette().m_vecBlockPlt.at(1));
+  for (int x = 2; x <= 6; ++x) ASSERT_EQ(BlockAt(EditStage(), x, 5), 0);
+  edit.m_iLayer = 0;
+  edit.m_iBrushW = edit.m_iBrushH = 1;
+  edit.m_iTool = kToolLine;
+  edit.m_iCursorMode = 1;
+  Send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton, 2, 5);
+  Send(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton, 6, 5);
+  Stage()->RenderView();
+  const std::vector<uint32_t> previewed = CellInside(Stage()->View(), 4, 5);
+  EXPECT_FALSE(AllBlack(previewed));
+  EXPECT_TRUE(AllBlack(CellInside(Stage()->View(), 4, 6)));
+  EXPECT_EQ(BlockAt(EditStage(), 4, 5), 0) << "nothing is written before the release";
+  Send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton, 6, 5);
+  Stage()->RenderView();
+  EXPECT_EQ(CellInside(Stage()->View(), 4, 5), previewed);
+  EXPECT_NE(BlockAt(EditStage(), 4, 5), 0);
+
+  // With Shift every layer's brush shows; items keep to the top right quarter.
+  ASSERT_GT(CommonPalette().m_vecItemPlt.size(), 1u);
+  edit.m_vecBrushItem.assign(1, CommonPalette().m_vecItemPlt.at(1));
+  edit.m_iTool = kToolRect;
+  edit.m_iCursorMode = 2;
+  edit.m_bDrag = 1;
+  edit.m_iRectX = 2;
+  edit.m_iRectY = 8;
+  cSurface currentLayer, allLayers;
+  for (cSurface* out : {&currentLayer, &allLayers}) {
+    out->CreateSurface(640, 480, 32, false);
+    out->Fill(0);
+    DrawDragPreview(EditStage(), edit, {3, 9}, out == &allLayers, *out, 0, 0);
+  }
+  EXPECT_FALSE(AllBlack(CellInside(currentLayer, 3, 9)));
+  EXPECT_TRUE(AllBlack(CellInside(currentLayer, 4, 9)));
+  bool itemShown = false;
+  for (int y = 0; y < 480; ++y) {
+    for (int x = 0; x < 640; ++x) {
+      if (std::memcmp(currentLayer.Image().Pixel(x, y), allLayers.Image().Pixel(x, y), 3) == 0) continue;
+      itemShown = true;
+      EXPECT_TRUE(x % 32 >= 16 && y % 32 < 16 && x >= 64 && x < 128 && y >= 256 && y < 320) << x << "," << y;
+    }
+  }
+  EXPECT_TRUE(itemShown);
+
+  // A brush of a block and a gap tiles from the rectangle's own left edge,
+  // also when the view starts inside the rectangle.
+  edit.m_vecBrushBlock.resize(2);
+  edit.m_iBrushW = 2;
+  edit.m_iRectX = 0;
+  currentLayer.Fill(0);
+  DrawDragPreview(EditStage(), edit, {3, 9}, false, currentLayer, 1, 0);
+  EXPECT_TRUE(AllBlack(CellInside(currentLayer, 0, 9)));   // stage column 1: gap
+  EXPECT_FALSE(AllBlack(CellInside(currentLayer, 1, 9)));  // stage column 2: block
+  EXPECT_TRUE(AllBlack(CellInside(currentLayer, 2, 9)));
+  edit.m_bDrag = 0;
+}
+
+TEST_F(EditorWindow, MinimisingHidesThePalettesUntilTheWindowComesBack) {
+  cPaletteWindows& palettes = *Stage()->Palettes();
+  QWidget* blocks = palettes.Palette({0, 0}).Window();
+  QWidget* charas = palettes.Palette({0, 1}).Window();
+  ASSERT_TRUE(blocks->isVisible());
+  Stage()->Window()->setWindowState(Qt::WindowMinimized);
+  EXPECT_FALSE(blocks->isVisible());
+  EXPECT_TRUE(app->Host()->isMinimized());
+  app->ActivationChanged(false);
+  app->ActivationChanged(true);  // coming to the front brings the set back
+  EXPECT_TRUE(blocks->isVisible());
+  EXPECT_FALSE(Stage()->Window()->isMinimized());
+
+  Stage()->Window()->setWindowState(Qt::WindowMinimized);
+  Stage()->Window()->setWindowState(Qt::WindowNoState);  // restored from the task bar
+  EXPECT_TRUE(blocks->isVisible());
+  EXPECT_FALSE(charas->isVisible()) << "only the current layer's windows";
+  EXPECT_FALSE(app->Host()->isMinimized());
+  // The next idle step gives the focus back to the stage window.
+  blocks->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(blocks));
+  app->IdleStep();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(Stage()->Window()));
+
+  // Without a minimise, activation leaves alone what a dialog has hidden.
+  blocks->hide();
+  app->ActivationChanged(true);
+  EXPECT_FALSE(blocks->isVisible());
 }
 
 }  // namespace

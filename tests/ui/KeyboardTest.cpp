@@ -1,4 +1,5 @@
 #include <QDialog>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <gtest/gtest.h>
@@ -73,12 +74,19 @@ class cKeyDialog : public cSampleDialog {
   }
 };
 
-TEST(KeyboardHook, WindowSeesKeysWhileAnEditHasTheFocus) {
+// A modeless window that notes every key the hook hands it.
+class KeyboardHookWindow : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    dialog.Create(0, true);
+    Activate(dialog.Window());
+  }
   cDialogManager manager;
   cSampleRecord record;
-  cKeyDialog dialog(manager, record);
-  dialog.Create(0, true);
-  Activate(dialog.Window());
+  cKeyDialog dialog{manager, record};
+};
+
+TEST_F(KeyboardHookWindow, WindowSeesKeysWhileAnEditHasTheFocus) {
   QLineEdit* edit = qobject_cast<QLineEdit*>(dialog.Item(kIdName));
   edit->setFocus();
   QTest::keyClick(edit, Qt::Key_Left);
@@ -92,6 +100,39 @@ TEST(KeyboardHook, WindowSeesKeysWhileAnEditHasTheFocus) {
   QApplication::processEvents();
   EXPECT_EQ(dialog.windowKeys, (std::vector<int>{Qt::Key_Left, Qt::Key_X}));
   EXPECT_EQ(edit->text(), QStringLiteral("abxc"));  // the keys went on to the edit as well
+}
+
+// Keys that edit a composition (Escape cancels it, Enter commits it, the
+// arrows move in it) are the input method's; the window hears nothing.
+TEST_F(KeyboardHookWindow, KeysOfAnInputMethodCompositionStayWithTheEdit) {
+  QLineEdit* name = qobject_cast<QLineEdit*>(dialog.Item(kIdName));
+  QLineEdit* life = qobject_cast<QLineEdit*>(dialog.Item(kIdLife));
+  const auto compose = [](QWidget* edit, const char* preedit, const char* commit) {
+    QInputMethodEvent event(QString::fromUtf8(preedit), {});
+    event.setCommitString(QString::fromUtf8(commit));
+    QApplication::sendEvent(edit, &event);
+  };
+  name->setFocus();
+  compose(name, "か", "");
+  EXPECT_TRUE(cHook::Composing());
+  compose(name, "", "蚊");
+  QTest::keyClick(name, Qt::Key_Left);
+  // A composition left behind by a focus change is over as well.
+  compose(name, "か", "");
+  life->setFocus();
+  EXPECT_FALSE(cHook::Composing());
+  QTest::keyClick(life, Qt::Key_Right);
+  QApplication::processEvents();
+  EXPECT_EQ(dialog.windowKeys, (std::vector<int>{Qt::Key_Left, Qt::Key_Right}));
+
+  dialog.windowKeys.clear();
+  name->setFocus();
+  compose(name, "か", "");
+  for (Qt::Key key : {Qt::Key_Space, Qt::Key_Left, Qt::Key_Backspace, Qt::Key_Return, Qt::Key_Escape}) {
+    QTest::keyClick(name, key);
+  }
+  QApplication::processEvents();
+  EXPECT_TRUE(dialog.windowKeys.empty());
 }
 
 TEST(KeyboardHook, ModalDialogPassesKeysToItsControls) {

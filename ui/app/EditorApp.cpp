@@ -50,6 +50,8 @@ constexpr int kRebuildDelayMs = 100;
 constexpr uint32_t kMsPerMinute = 60000;
 constexpr int kLowestDesktopWidth = 640;
 constexpr int kLowestDesktopHeight = 480;
+// No layer at all: every palette window and the group window hide.
+constexpr int kNoLayer = -1;
 
 cUiFont UiFontOf(const QFont& font) {
   const QFontMetrics metrics(font);
@@ -158,6 +160,7 @@ bool cEditorApp::InitApp() {
   if (!CreateStageWindow()) return false;
   ListenForGames();
   if (RestoreSheetRate()) RunTimedBackup();
+  m_pManager->SetSheetRate(m_sheetRate);
   ReportLine("Sheet Rate = (%lf,%lf)", m_sheetRate.x, m_sheetRate.y);
   m_bStarted = true;
   return true;
@@ -287,9 +290,32 @@ void cEditorApp::SetActive(bool active) {
   if (active) StartIdleTimer();
 }
 
+void cEditorApp::ActivationChanged(bool active) {
+  SetActive(active);
+  ApplyWindowSteps(m_windowSet.ActivationChanged(active));
+}
+
+void cEditorApp::StageWindowMinimised() { ApplyWindowSteps(m_windowSet.UserMinimised()); }
+
+void cEditorApp::StageWindowRestored() { ApplyWindowSteps(m_windowSet.RestoredFromTaskBar()); }
+
+void cEditorApp::ApplyWindowSteps(const cWindowSetSteps& steps) {
+  cPaletteWindows* palettes = m_pStageWindow ? m_pStageWindow->Palettes() : nullptr;
+  if (steps.hideSet && palettes) palettes->ShowLayer(kNoLayer);
+  if (steps.minimiseHost && m_pHost) m_pHost->setWindowState(m_pHost->windowState() | Qt::WindowMinimized);
+  if (steps.restore) RestoreWindows();
+}
+
+// The main window returns to normal, the stage window and the palettes of
+// its layer come back as the settings hold them, and the next idle step
+// gives the focus back.
 void cEditorApp::RestoreWindows() {
+  if (m_pHost) m_pHost->setWindowState(m_pHost->windowState() & ~Qt::WindowMinimized);
   m_bRestoreFocus = true;
-  if (m_pStageWindow && m_pStageWindow->Window()) m_pStageWindow->Window()->showNormal();
+  if (m_pStageWindow && m_pStageWindow->Window()) {
+    m_pStageWindow->Window()->showNormal();
+    if (m_pStageWindow->Palettes()) m_pStageWindow->Palettes()->ShowLayer(StageEdit().m_iLayer);
+  }
   StartIdleTimer();
 }
 

@@ -4,6 +4,7 @@
 
 #include "core/SheetRate.h"
 #include "core/StartupReport.h"
+#include "ui/app/WindowSetState.h"
 #include "ui/stage/StageWindow.h"
 
 class QApplication;
@@ -50,9 +51,15 @@ class cEditorApp : public cStageWindowHost {
   void RequestRebuild() override;
   void CloseEditor() override;
 
+  void StageWindowMinimised() override;
+  void StageWindowRestored() override;
+
   // The host window's events.
   void SetActive(bool active);
-  void RestoreWindows();
+  // The application came to the front or went behind another.
+  void ActivationChanged(bool active);
+  bool IsActive() const { return m_bActive; }
+  bool IsMinimised() const { return m_windowSet.Minimised(); }
   void RebuildStageWindow();
   void ClearActiveFlag() { m_bActive = false; }
   void OnHostDestroyed();
@@ -69,6 +76,8 @@ class cEditorApp : public cStageWindowHost {
   bool RestoreSheetRate();
   void RunTimedBackup();
   void StartIdleTimer();
+  void ApplyWindowSteps(const cWindowSetSteps& steps);
+  void RestoreWindows();
   bool AnyWindowWantsIdle() const;
 
   std::unique_ptr<cDialogManager> m_pManager;
@@ -87,6 +96,7 @@ class cEditorApp : public cStageWindowHost {
   bool m_bActive = true;
   bool m_bStarted = false;
   bool m_bRestoreFocus = false;
+  cWindowSetState m_windowSet;
   bool m_bRebuildPending = false;
   int m_nCurrentMode = 0;  // 0 the stage editor, 1 the world map editor
   int m_nFrames = 0;

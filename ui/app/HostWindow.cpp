@@ -30,9 +30,7 @@ cHostWindow::cHostWindow(cEditorApp& app) : QWidget(nullptr, Qt::Window), m_app(
   setGeometry(kHostX, kHostY, kHostClientWidth, kHostClientHeight);
   setAttribute(Qt::WA_DontShowOnScreen);
   QObject::connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-    const bool active = state == Qt::ApplicationActive;
-    m_app.SetActive(active);
-    if (active) m_app.RestoreWindows();
+    m_app.ActivationChanged(state == Qt::ApplicationActive);
   });
 }
 

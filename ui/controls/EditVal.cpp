@@ -1,5 +1,7 @@
 #include "ui/controls/EditVal.h"
 
+#include <algorithm>
+
 #include "ui/controls/EditWidgets.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/Dialog.h"
@@ -15,15 +17,14 @@ cEditVal::cEditVal(cDialog& parent, cLineEdit* edit, const cEditValDesc& desc)
       m_nSpinId(desc.spinId) {
   edit->acceptChar = [](unsigned code) { return cNumericEntry::IsAcceptedChar(code); };
   edit->commitToKeys = [](const QString& commit) {
-    // Half-width keys that an input method hands over whole are typed as
-    // they are; full-width digits become their ASCII keys.
+    // Some input methods hand plain keys over as a commit of their own;
+    // those are typed as they are. A real composition result keeps only
+    // its full-width digits, minus and point, as ASCII keys.
+    const bool plainKeys = std::all_of(commit.begin(), commit.end(), [](QChar c) { return c.unicode() < 0x80; });
+    if (!plainKeys) return QString::fromStdString(cNumericEntry::FullWidthToKeys(ToCp932(commit)));
     QString keys;
     for (QChar c : commit) {
-      if (c.unicode() < 0x80) {
-        if (cNumericEntry::IsAcceptedChar(c.unicode())) keys += c;
-      } else {
-        keys += QString::fromStdString(cNumericEntry::FullWidthToKeys(ToCp932(QString(c))));
-      }
+      if (cNumericEntry::IsAcceptedChar(c.unicode())) keys += c;
     }
     return keys;
   };

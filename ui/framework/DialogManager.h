@@ -2,6 +2,8 @@
 #include <QObject>
 #include <list>
 
+#include "core/SheetRate.h"
+
 class QEvent;
 
 namespace velmora {
@@ -28,6 +30,10 @@ class cDialogManager : public QObject {
 
   void ShowAll(bool show);
   void EnableAll(bool enable);
+  // The rate that sheets scale their pages by, as start-up measured or
+  // restored it.
+  void SetSheetRate(const cSheetRate& rate) { m_sheetRate = rate; }
+  const cSheetRate& SheetRate() const { return m_sheetRate; }
   // The filter of the main loop; true when the event was consumed.
   bool Filter(QObject* receiver, QEvent* event);
 
@@ -40,6 +46,7 @@ class cDialogManager : public QObject {
 
   std::list<cDialog*> m_windows;
   std::list<cSheet*> m_sheets;
+  cSheetRate m_sheetRate;
 };
 
 // Shows or hides, enables or disables every open window and sheet.

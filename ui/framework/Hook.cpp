@@ -27,8 +27,6 @@ bool IsForwardedKey(int key) {
   return std::find(std::begin(kForwardedKeys), std::end(kForwardedKeys), key) != std::end(kForwardedKeys);
 }
 
-bool IsEnter(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
-
 // The platform's own boxes keep their Escape; only our windows without a
 // dialog object lose a stray one.
 bool IsStockBox(const QWidget* window) {
@@ -80,8 +78,10 @@ bool cHook::eventFilter(QObject* receiver, QEvent* event) {
     case QEvent::InputMethod:
       g_composing = !static_cast<QInputMethodEvent*>(event)->preeditString().isEmpty();
       return false;
+    // A composition ends with the focus of its widget; by the time the old
+    // widget hears of it, the focus already lies elsewhere.
     case QEvent::FocusOut:
-      if (receiver == QApplication::focusWidget()) g_composing = false;
+      if (receiver->isWidgetType()) g_composing = false;
       return false;
     case QEvent::KeyPress: return OnKey(receiver, *static_cast<QKeyEvent*>(event), true);
     case QEvent::KeyRelease: return OnKey(receiver, *static_cast<QKeyEvent*>(event), false);
@@ -107,12 +107,14 @@ bool cHook::OnKey(QObject* receiver, QKeyEvent& event, bool down) {
     return false;
   }
   if (key == Qt::Key_Tab || key == Qt::Key_Backtab) return false;
-  if (IsEnter(key) && g_composing) return false;
-  if (!g_composing && IsForwardedKey(key)) {
+  if (key == Qt::Key_Control) g_ctrlHeld = true;
+  // While an input method composes, its keys (Escape, Enter, Space, the
+  // arrows...) edit the composition; the window must not act on them.
+  if (g_composing) return false;
+  if (IsForwardedKey(key)) {
     Post(window, cHookKeyEvent::ForwardedKey, event);
     return false;
   }
-  if (key == Qt::Key_Control) g_ctrlHeld = true;
   if (!(modeless && (ctrl || g_ctrlHeld))) Post(window, cHookKeyEvent::KeyDown, event);
   return false;
 }

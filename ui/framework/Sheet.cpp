@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QLayout>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -47,8 +48,11 @@ void cSheet::Build() {
   for (size_t i = 0; i < m_pages.size(); ++i) {
     cDialog& page = *m_pages[i];
     page.CreatePage(m_pTabs, !m_bModal);
+    ScalePage(*page.Window());
     m_pTabs->addTab(page.Window(), m_tabTitles[i]);
   }
+  // Like a property sheet, the frame wraps its pages and keeps that size.
+  column->setSizeConstraint(QLayout::SetFixedSize);
   auto* buttons = new QDialogButtonBox(m_pWindow);
   buttons->addButton(Ui("OK"), QDialogButtonBox::AcceptRole)->setDefault(true);
   buttons->addButton(Ui("キャンセル"), QDialogButtonBox::RejectRole);
@@ -64,6 +68,18 @@ void cSheet::Build() {
     QObject::connect(m_pWindow, &QObject::destroyed, &m_manager,
                      [&manager = m_manager] { QCoreApplication::postEvent(&manager, new QEvent(QEvent::User)); });
   }
+}
+
+QSize cSheet::ScaledTemplate(const QSize& templateSize, const cSheetRate& rate) {
+  return {static_cast<int>(templateSize.width() * rate.x), static_cast<int>(templateSize.height() * rate.y)};
+}
+
+// The layout's minimum stays the floor: a rate below 1.0 never cuts off a
+// control.
+void cSheet::ScalePage(QWidget& page) const {
+  const cSheetRate& rate = m_manager.SheetRate();
+  if (rate.x == 1.0 && rate.y == 1.0) return;
+  page.setFixedSize(ScaledTemplate(page.sizeHint(), rate).expandedTo(page.minimumSizeHint()));
 }
 
 int cSheet::Start() {

@@ -1,9 +1,12 @@
 #pragma once
 #include <QDialog>
 #include <QPointer>
+#include <QSize>
 #include <QString>
 #include <memory>
 #include <vector>
+
+#include "core/SheetRate.h"
 
 class QTabWidget;
 class QWidget;
@@ -44,12 +47,18 @@ class cSheet {
   // press OK without the mouse.
   bool ApplyPages();
 
+  // A page's template size is the size its table lays out to under the
+  // running font, which is what a template in dialog units came to. The
+  // rate scales it, each side truncated.
+  static QSize ScaledTemplate(const QSize& templateSize, const cSheetRate& rate);
+
  protected:
   // After all pages applied: saving what the pages changed.
   virtual bool OnApply() { return true; }
 
  private:
   void Build();
+  void ScalePage(QWidget& page) const;
 
   cDialogManager& m_manager;
   QPointer<QWidget> m_pOwner;

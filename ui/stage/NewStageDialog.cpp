@@ -70,9 +70,10 @@ void cNewStageDialog::Browse(int editId, const char* title, const char* folder, 
 
 bool cNewStageDialog::OnApply() {
   EditConfig& config = EditorConfig();
-  if (!CreateNewStage(config.m_strTemplateStage, config.m_nStagePaletteChoice, config.m_strStagePaletteFile)) {
-    return false;
-  }
+  const eNewStageResult result =
+      CreateNewStage(config.m_strTemplateStage, config.m_nStagePaletteChoice, config.m_strStagePaletteFile);
+  if (result == eNewStageResult::Failed) Close(0);
+  if (result != eNewStageResult::Created) return false;
   config.SaveFile(PathOf(ePath::EditConfig));
   return true;
 }

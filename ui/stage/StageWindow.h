@@ -23,6 +23,9 @@ class cStageWindowHost {
   virtual void RequestRebuild() = 0;
   // The author closed the window and agreed to leave.
   virtual void CloseEditor() = 0;
+  // The author sent the window to the task bar, or brought it back.
+  virtual void StageWindowMinimised() {}
+  virtual void StageWindowRestored() {}
 };
 
 // The editor's central window: the edit stage through a 32-dot grid, with

@@ -1,5 +1,6 @@
 #include <QGuiApplication>
 #include <QWheelEvent>
+#include <QWindowStateChangeEvent>
 
 #include "stage/StageEdit.h"
 #include "stage/StageRange.h"
@@ -73,6 +74,13 @@ bool cStageWindow::OnDialogMessage(QEvent& event) {
       event.ignore();
       OnCloseBox();
       return true;
+    case QEvent::WindowStateChange: {
+      const bool was = static_cast<const QWindowStateChangeEvent&>(event).oldState() & Qt::WindowMinimized;
+      const bool now = Window()->isMinimized();
+      if (now && !was) m_host.StageWindowMinimised();
+      if (was && !now) m_host.StageWindowRestored();
+      return false;
+    }
     case QEvent::Wheel: {
       const auto& wheel = static_cast<const QWheelEvent&>(event);
       const QPoint delta = wheel.angleDelta();
@@ -83,6 +91,8 @@ bool cStageWindow::OnDialogMessage(QEvent& event) {
   }
   if (event.type() != cHookKeyEvent::EventType()) return false;
   const auto& key = static_cast<const cHookKeyEvent&>(event);
+  // Shift decides which layers a drag writes; its preview follows at once.
+  if (key.Key() == Qt::Key_Shift && StageEdit().m_bDrag) Repaint();
   if (key.Kind() == cHookKeyEvent::KeyUp) return false;
   return OnKey(key.Key(), key.Modifiers() & Qt::ControlModifier);
 }

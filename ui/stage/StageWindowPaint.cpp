@@ -1,3 +1,4 @@
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <cstdio>
@@ -5,6 +6,7 @@
 #include "core/SystemText.h"
 #include "stage/StageEdit.h"
 #include "ui/framework/DialogWindow.h"
+#include "ui/stage/DragPreview.h"
 #include "ui/stage/StageWindow.h"
 #include "ui/stageview/StageView.h"
 
@@ -21,6 +23,10 @@ void cStageWindow::RenderView() {
   cViewOptions options;
   options.hasStage = StageEdit().m_bHasStage != 0;
   options.cursor = CursorFrame(StageEdit(), m_cursor);
+  const bool allLayers = QGuiApplication::keyboardModifiers() & Qt::ShiftModifier;
+  options.preview = [&](cSurface& out) {
+    DrawDragPreview(EditStage(), StageEdit(), m_cursor, allLayers, out, ScrollX(), ScrollY());
+  };
   RenderStageView(EditStage(), m_view, ScrollX(), ScrollY(), options);
 }
 

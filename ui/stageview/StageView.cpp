@@ -101,6 +101,7 @@ void RenderStageView(const cStage& stage, cSurface& out, int scrollX, int scroll
   out.Grid(0, 0, out.Width(), out.Height(), kCellDots, kCellDots, kGridColour);
   DrawCentreCross(out);
   DrawScrollLimits(stage, out, scrollX, scrollY);
+  if (options.preview) options.preview(out);
   DrawFrame(out, options.cursor, scrollX, scrollY);
 }
 

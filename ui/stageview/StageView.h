@@ -1,4 +1,6 @@
 #pragma once
+#include <functional>
+
 #include "stage/Stage.h"
 #include "ui/surface/Surface.h"
 
@@ -15,6 +17,8 @@ struct cCellFrame {
 struct cViewOptions {
   bool hasStage = true;  // without one the view stays black
   cCellFrame cursor;
+  // Drawn in the frame step, under the cursor frame: what a drag will write.
+  std::function<void(cSurface& out)> preview;
 };
 
 // Paints the part of the stage seen from the scroll position (top left

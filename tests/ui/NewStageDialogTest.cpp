@@ -1,0 +1,72 @@
+#include <gtest/gtest.h>
+
+#include "core/EditConfig.h"
+#include "core/SaveData.h"
+#include "stage/Stage.h"
+#include "stage/StageEdit.h"
+#include "stage/StageHistory.h"
+#include "support/ScriptedPrompt.h"
+#include "support/TempProject.h"
+#include "ui/framework/Commands.h"
+#include "ui/framework/DialogManager.h"
+#include "ui/stage/NewStageDialog.h"
+
+namespace velmora::testing {
+namespace {
+
+// The dialog's OK over an open stage: the question decides whether the
+// dialog stays, and a missing file closes it as cancelled.
+class NewStageDialogTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    EditStage().InitDefault();
+    StageEdit() = cStageEdit();
+    StageEdit().m_bHasStage = 1;
+    StageEdit().m_strPath = "data\\stg4\\kept.stg4_950";
+    EditorConfig().m_strTemplateStage = "data\\stg4\\gone.stg4_950";
+    EditorConfig().m_nStagePaletteChoice = kNewPaletteEmpty;
+    dialog.Create(0, true);
+  }
+  void TearDown() override {
+    dialog.Close(0);
+    ClearHistory();
+    StageEdit() = cStageEdit();
+    EditorConfig() = EditConfig();
+    g_bNoSave = 0;
+  }
+  void PressOk() { dialog.SendCommand(MakeCommand(kIdOk, kNoticeClicked), 0); }
+
+  cTempProject project;
+  cScriptedPrompt prompt;
+  cDialogManager manager;
+  cNewStageDialog dialog{manager, nullptr};
+};
+
+TEST_F(NewStageDialogTest, NoKeepsTheDialogOpenAndTheStageUntouched) {
+  prompt.QueueAnswer(eAnswer::No);
+  PressOk();
+  EXPECT_TRUE(dialog.IsOpen());
+  EXPECT_EQ(prompt.LastText(), "現在のステージは破棄されます。\n新規作成しますか？\n");
+  EXPECT_EQ(StageEdit().m_strPath, "data\\stg4\\kept.stg4_950");
+}
+
+TEST_F(NewStageDialogTest, MissingTemplateClosesTheDialogAsCancelled) {
+  prompt.QueueAnswer(eAnswer::Yes);
+  PressOk();
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(dialog.Result(), 0);
+  EXPECT_EQ(prompt.LastText(), "ステージファイル data\\stg4\\gone.stg4_950 が見つかりません！");
+}
+
+TEST_F(NewStageDialogTest, EmptyTemplateMakesADefaultStageAndClosesWithOk) {
+  EditorConfig().m_strTemplateStage.clear();
+  dialog.RefreshAll();
+  prompt.QueueAnswer(eAnswer::Yes);
+  PressOk();
+  EXPECT_FALSE(dialog.IsOpen());
+  EXPECT_EQ(dialog.Result(), 1);
+  EXPECT_TRUE(StageEdit().m_strPath.empty());
+}
+
+}  // namespace
+}  // namespace velmora::testing

@@ -1,0 +1,95 @@
+#include "ui/stage/DragPreview.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <vector>
+
+#include "project/Database.h"
+#include "stage/StageTools.h"
+#include "ui/stageview/ObjectDraw.h"
+
+namespace velmora {
+namespace {
+
+constexpr int kModeLine = 1;
+constexpr int kModeRect = 2;
+constexpr cColourRef kFrameColour = 0xFF0080;
+constexpr int kFramePenWidth = 2;
+
+// One cell that the drag will write, with the brush record it takes.
+struct cPreviewCell {
+  cCellPos cell;
+  int brushIndex;
+};
+
+std::vector<cPreviewCell> LinePreview(const cStageEdit& edit, cCellPos cursor) {
+  const std::vector<cCellPos> cells = LineCells(edit.m_iLineX, edit.m_iLineY, cursor.x, cursor.y);
+  std::vector<cPreviewCell> preview;
+  for (size_t n = 0; n < cells.size(); ++n) {
+    preview.push_back({cells[n], static_cast<int>(n) % std::max(edit.m_iBrushW, 1)});
+  }
+  return preview;
+}
+
+// Only the part in view: a rectangle may cover a whole large stage.
+std::vector<cPreviewCell> RectPreview(const cStageEdit& edit, cCellPos cursor, const cSurface& out, int scrollX,
+                                      int scrollY) {
+  const int left = std::min(edit.m_iRectX, cursor.x);
+  const int top = std::min(edit.m_iRectY, cursor.y);
+  const int right = std::min(std::max(edit.m_iRectX, cursor.x), scrollX + out.Width() / kCellDots);
+  const int bottom = std::min(std::max(edit.m_iRectY, cursor.y), scrollY + out.Height() / kCellDots);
+  const int brushW = std::max(edit.m_iBrushW, 1);
+  const int brushH = std::max(edit.m_iBrushH, 1);
+  std::vector<cPreviewCell> preview;
+  for (int y = std::max(top, scrollY); y <= bottom; ++y) {
+    for (int x = std::max(left, scrollX); x <= right; ++x) {
+      preview.push_back({{x, y}, TileIndex(x - left, y - top, brushW, brushH)});
+    }
+  }
+  return preview;
+}
+
+// The brush record of one layer at `index`, drawn like a placed one.
+void DrawBrushRecord(const cStageEdit& edit, int layer, int index, cSurface& out, int x, int y) {
+  const auto at = [index](const auto& brush) {
+    return index < static_cast<int>(brush.size()) ? &brush[static_cast<size_t>(index)] : nullptr;
+  };
+  if (layer == 0) {
+    if (const cEdBlock* block = at(edit.m_vecBrushBlock)) DrawObject(out, x, y, LookOf(*block), false);
+  } else if (layer == 1) {
+    if (const cEdChara* chara = at(edit.m_vecBrushChara)) {
+      DrawObject(out, x, y, LookOf(*chara, Database().m_AnimeSet.m_vecEntries), false);
+    }
+  } else if (const cEdItem* item = at(edit.m_vecBrushItem)) {
+    DrawObject(out, x, y, LookOf(*item), true);
+  }
+}
+
+}  // namespace
+
+void DrawDragPreview(const cStage& stage, const cStageEdit& edit, cCellPos cursor, bool allLayers, cSurface& out,
+                     int scrollX, int scrollY) {
+  if (!edit.m_bDrag || (edit.m_iCursorMode != kModeLine && edit.m_iCursorMode != kModeRect)) return;
+  const bool line = edit.m_iCursorMode == kModeLine;
+  const std::vector<cPreviewCell> cells =
+      line ? LinePreview(edit, cursor) : RectPreview(edit, cursor, out, scrollX, scrollY);
+  const int firstLayer = allLayers ? 0 : edit.m_iLayer;
+  const int lastLayer = allLayers ? 2 : edit.m_iLayer;
+  std::vector<cCellPos> framed;
+  for (const cPreviewCell& preview : cells) {
+    const cCellPos& cell = preview.cell;
+    if (cell.x < 0 || cell.y < 0 || cell.x >= stage.m_nWidth || cell.y >= stage.m_nHeight) continue;
+    const int x = (cell.x - scrollX) * kCellDots;
+    const int y = (cell.y - scrollY) * kCellDots;
+    for (int layer = firstLayer; layer <= lastLayer; ++layer) {
+      DrawBrushRecord(edit, layer, preview.brushIndex, out, x, y);
+    }
+    if (line) framed.push_back({x, y});
+  }
+  if (framed.empty()) return;
+  out.SetPen(kPenSolid, kFramePenWidth, kFrameColour);
+  for (const cCellPos& corner : framed) out.Box(corner.x, corner.y, kCellDots, kCellDots);
+  out.FreePen();
+}
+
+}  // namespace velmora

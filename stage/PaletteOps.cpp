@@ -109,33 +109,6 @@ void MarkChanged(cPaletteSide side) {
   (side.stagePlt ? edit.m_bStageChanged : edit.m_bCommonChanged) = 1;
 }
 
-// Where an insert lands: at or behind the end, or below 0, it appends.
-int InsertPosition(int index, int count) { return (index < 0 || index >= count) ? count : index; }
-
-template <class T>
-void InsertAt(std::vector<T>& list, int index, T entry) {
-  list.insert(list.begin() + InsertPosition(index, Count(list)), std::move(entry));
-}
-
-template <class T>
-void ApplyMove(std::vector<T>& list, const cPaletteMoveRequest& request) {
-  const int n = request.last - request.first + 1;
-  const auto begin = list.begin() + request.first;
-  const auto end = list.begin() + request.last + 1;
-  if (request.operation == kDeleteEntries) {
-    list.erase(begin, end);
-    return;
-  }
-  const std::vector<T> range(begin, end);
-  int at = request.target;
-  if (request.operation == kMoveEntries) {
-    if (request.target == request.first || request.target == request.first + 1) return;
-    list.erase(begin, end);
-    if (request.target >= request.first) at -= n;
-  }
-  for (int i = 0; i < n; ++i) InsertAt(list, at + i, VecAt(range, i));
-}
-
 template <class T>
 void ChecksFirstPass(std::vector<T>& list) {
   for (T& entry : list) entry.CheckRefs();
@@ -244,8 +217,8 @@ bool PasteEntry(cPaletteSide side, int index) {
 
 bool InsertEntry(cPaletteSide side, int index) {
   WithSide(side, [&](const auto& parts) {
-    const int at = InsertPosition(std::max(index, 1), Count(parts.list));
-    InsertAt(parts.list, at, parts.defaultEntry);
+    const int at = EntryInsertPosition(std::max(index, 1), Count(parts.list));
+    parts.list.insert(parts.list.begin() + at, parts.defaultEntry);
     InheritAsNewStageEntry(side, VecAt(parts.list, at), parts.kind, at);
     cStageEdit& edit = StageEdit();
     if (ClipIsIn(side) && edit.m_iClipIndex >= at) ++edit.m_iClipIndex;
@@ -257,7 +230,7 @@ bool InsertCopied(cPaletteSide side, int index) {
   cStageEdit& edit = StageEdit();
   if (!HasClipFor(side)) return false;
   const int count = PaletteCount(side);
-  const int at = InsertPosition(std::max(index, 1), count);
+  const int at = EntryInsertPosition(std::max(index, 1), count);
   InsertEntry(side, at);
   if (!PasteClip(side, at)) return true;
   if (edit.m_bClipCut) {
@@ -303,15 +276,12 @@ bool SetEntryCount(cPaletteSide side, int count) {
   return true;
 }
 
-bool MoveEntries(cPaletteSide side, const cPaletteMoveRequest& request) {
+bool MoveEntries(cPaletteSide side, const cMoveRequest& request) {
   bool moved = false;
   WithSide(side, [&](const auto& parts) {
-    const int count = Count(parts.list);
-    if (request.first < 1 || request.last >= count || request.last < request.first) return;
-    if (request.operation < kMoveEntries || request.operation > kDeleteEntries) return;
-    ApplyMove(parts.list, request);
+    if (!MoveEntries(parts.list, request)) return;
     cStageEdit& edit = StageEdit();
-    if (SelectionIsIn(side) && edit.m_iPltIndex >= Count(parts.list)) edit.m_iPltIndex = Count(parts.list) - 1;
+    if (SelectionIsIn(side)) edit.m_iPltIndex = SelectionAfterMove(edit.m_iPltIndex, Count(parts.list));
     RefreshCellsOf(parts, side);
     moved = true;
   });

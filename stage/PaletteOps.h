@@ -1,4 +1,5 @@
 #pragma once
+#include "core/ListMove.h"
 
 namespace velmora {
 
@@ -34,17 +35,11 @@ bool DeleteEntry(cPaletteSide side, int index);
 // The list gets `count` entries besides entry 0 (1 to 9999).
 bool SetEntryCount(cPaletteSide side, int count);
 
-enum eMoveOperation { kMoveEntries = 0, kCopyInsertEntries = 1, kDeleteEntries = 2 };
-struct cPaletteMoveRequest {
-  int first = 1;
-  int last = 1;
-  int target = 1;
-  int operation = kMoveEntries;
-};
-// The move dialog's operation on the list: false when the range is not one
-// of real entries. The cells that follow the list take their inheritance
-// again.
-bool MoveEntries(cPaletteSide side, const cPaletteMoveRequest& request);
+// The move dialog's operation on the list: false when it changed nothing.
+// The selection stays inside the list, the cells that follow the list take
+// their inheritance again, the clipboard is emptied and the palette marked
+// changed.
+bool MoveEntries(cPaletteSide side, const cMoveRequest& request);
 
 // What every list command is followed by: the cells and stage entries
 // that follow the changed list copy again, every reference is checked, and

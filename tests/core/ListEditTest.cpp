@@ -237,20 +237,53 @@ TEST(ListCommands, IdSetsDependOnListNumberAndFamily) {
   EXPECT_EQ(CommandForId(ListAcceleratorIds(4, 1), 0), eListCommand::None);
 }
 
-TEST(MoveEntries, MoveCopyAndEraseKeepEntryZero) {
-  std::vector<int> v{0, 1, 2, 3, 4, 5};
-  EXPECT_FALSE(MoveEntries(v, 2, 3, 3, eMoveOp::Move));  // target first + 1
-  EXPECT_TRUE(MoveEntries(v, 1, 2, 5, eMoveOp::Move));
-  EXPECT_EQ(v, (std::vector<int>{0, 3, 4, 1, 2, 5}));
-  EXPECT_TRUE(MoveEntries(v, 4, 5, 1, eMoveOp::Move));
-  EXPECT_EQ(v, (std::vector<int>{0, 2, 5, 3, 4, 1}));
-  EXPECT_TRUE(MoveEntries(v, 1, 2, 6, eMoveOp::CopyInsert));
-  EXPECT_EQ(v, (std::vector<int>{0, 2, 5, 3, 4, 1, 2, 5}));
-  EXPECT_TRUE(MoveEntries(v, 3, 7, 0, eMoveOp::Erase));
-  EXPECT_EQ(v, (std::vector<int>{0, 2, 5}));
-  EXPECT_FALSE(MoveEntries(v, 0, 1, 2, eMoveOp::Erase));
-  EXPECT_FALSE(MoveEntries(v, 2, 1, 2, eMoveOp::Erase));
+// 0..count-1, entry i holding i, so that a result reads as the order.
+std::vector<int> Counting(int count) {
+  std::vector<int> v(static_cast<size_t>(count));
+  for (int i = 0; i < count; ++i) v[static_cast<size_t>(i)] = i;
+  return v;
+}
+
+std::vector<int> Moved(int count, int first, int last, int target, eMoveOp op, bool changes = true) {
+  std::vector<int> v = Counting(count);
+  EXPECT_EQ(changes, MoveEntries(v, {first, last, target, static_cast<int32_t>(op)}))
+      << first << ".." << last << " to " << target;
+  return v;
+}
+
+TEST(MoveEntries, AMovedRangeLandsBeforeItsTargetAsTheListWas) {
+  // 5..8 to 20 in a list of 30 stand at 16..19.
+  const std::vector<int> far = Moved(30, 5, 8, 20, eMoveOp::Move);
+  EXPECT_EQ(std::vector<int>(far.begin() + 16, far.begin() + 20), (std::vector<int>{5, 6, 7, 8}));
+  EXPECT_EQ(far[15], 19);
+  EXPECT_EQ(far[5], 9);
+  EXPECT_EQ(Moved(6, 4, 5, 1, eMoveOp::Move), (std::vector<int>{0, 4, 5, 1, 2, 3}));
+
+  // Onto its own place nothing happens; a target inside the range counts
+  // from the range's start.
+  EXPECT_EQ(Moved(30, 5, 5, 6, eMoveOp::Move, false), Counting(30));
+  EXPECT_EQ(Moved(30, 5, 8, 6, eMoveOp::Move, false), Counting(30));
+  const std::vector<int> inside = Moved(30, 5, 8, 7, eMoveOp::Move);
+  EXPECT_EQ(std::vector<int>(inside.begin() + 1, inside.begin() + 10), (std::vector<int>{1, 2, 5, 6, 7, 8, 3, 4, 9}));
+
+  // Where the range would go in before entry 0, those entries are
+  // appended: entry 0 never moves.
+  EXPECT_EQ(Moved(7, 1, 4, 3, eMoveOp::Move), (std::vector<int>{0, 3, 4, 5, 6, 1, 2}));
+}
+
+TEST(MoveEntries, CopyInsertAppendsBehindTheEndAndEraseTakesTheRange) {
+  EXPECT_EQ(Moved(6, 1, 2, 4, eMoveOp::CopyInsert), (std::vector<int>{0, 1, 2, 3, 1, 2, 4, 5}));
+  EXPECT_EQ(Moved(4, 1, 2, 99, eMoveOp::CopyInsert), (std::vector<int>{0, 1, 2, 3, 1, 2}));
+  EXPECT_EQ(Moved(6, 2, 4, 0, eMoveOp::Erase), (std::vector<int>{0, 1, 5}));
+}
+
+TEST(MoveEntries, RangesOutsideTheRealEntriesAndUnknownOperationsDoNothing) {
+  EXPECT_EQ(Moved(6, 0, 2, 4, eMoveOp::Erase, false), Counting(6));
+  EXPECT_EQ(Moved(6, 3, 6, 1, eMoveOp::Move, false), Counting(6));
+  EXPECT_EQ(Moved(6, 3, 2, 1, eMoveOp::CopyInsert, false), Counting(6));
+  EXPECT_EQ(Moved(6, 1, 2, 4, static_cast<eMoveOp>(3), false), Counting(6));
   EXPECT_EQ(SelectionAfterMove(4, 3), 2);
+  EXPECT_EQ(SelectionAfterMove(1, 3), 1);
 }
 
 }  // namespace

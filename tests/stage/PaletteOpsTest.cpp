@@ -200,54 +200,33 @@ class PaletteMoveTest : public PaletteOpsTest {
     PaletteOpsTest::SetUp();
     Stage() = Named<cEdBlock>("e", 30);
   }
-  std::vector<std::string> After(cPaletteMoveRequest request) {
-    EXPECT_TRUE(MoveEntries(kStageBlocks, request));
-    return Names(Stage());
+  static cMoveRequest Request(int first, int last, int target, eMoveOp op) {
+    return {first, last, target, static_cast<int32_t>(op)};
   }
 };
 
-TEST_F(PaletteMoveTest, MovedRangesLandBeforeTheTargetEntry) {
-  const std::vector<std::string> original = Names(Stage());
-  std::vector<std::string> expected = original;
-  expected.erase(expected.begin() + 5, expected.begin() + 9);
-  expected.insert(expected.begin() + 16, original.begin() + 5, original.begin() + 9);
-  EXPECT_EQ(expected, After({5, 8, 20, kMoveEntries}));
-}
+TEST_F(PaletteMoveTest, AMoveEmptiesTheClipboardMarksItsPaletteAndKeepsTheSelectionInside) {
+  ASSERT_TRUE(CopyEntry(kStageBlocks, 3, false));
+  SelectEntry(kStageBlocks, 28);
+  ASSERT_TRUE(MoveEntries(kStageBlocks, Request(10, 25, 0, eMoveOp::Erase)));
+  EXPECT_EQ(14u, Stage().size());
+  EXPECT_EQ(13, Edit().m_iPltIndex);
+  EXPECT_FALSE(Edit().m_bClip);
+  EXPECT_TRUE(Edit().m_bStageChanged);
+  EXPECT_FALSE(Edit().m_bCommonChanged);
 
-TEST_F(PaletteMoveTest, MovesOntoTheirOwnPlaceChangeNothing) {
-  const std::vector<std::string> original = Names(Stage());
-  EXPECT_EQ(original, After({5, 5, 6, kMoveEntries}));
-  EXPECT_EQ(original, After({5, 8, 6, kMoveEntries}));
-  EXPECT_EQ(original, After({5, 8, 5, kMoveEntries}));
-}
+  // A move that changes nothing leaves every mark as it was.
+  Edit().m_bStageChanged = 0;
+  ASSERT_TRUE(CopyEntry(kStageBlocks, 3, false));
+  EXPECT_FALSE(MoveEntries(kStageBlocks, Request(5, 8, 6, eMoveOp::Move)));
+  EXPECT_FALSE(MoveEntries(kStageBlocks, Request(0, 3, 10, eMoveOp::Move)));
+  EXPECT_TRUE(Edit().m_bClip);
+  EXPECT_FALSE(Edit().m_bStageChanged);
 
-TEST_F(PaletteMoveTest, ATargetInsideTheRangeCountsFromTheRangesStart) {
-  const std::vector<std::string> moved = After({5, 8, 7, kMoveEntries});
-  EXPECT_EQ((std::vector<std::string>{"e1", "e2", "e5", "e6", "e7", "e8", "e3", "e4", "e9"}),
-            std::vector<std::string>(moved.begin() + 1, moved.begin() + 10));
-}
-
-TEST_F(PaletteMoveTest, CopyInsertAndDelete) {
-  std::vector<std::string> names = After({2, 3, 1, kCopyInsertEntries});
-  EXPECT_EQ(32u, names.size());
-  EXPECT_EQ("e2", names[1]);
-  EXPECT_EQ("e3", names[2]);
-  EXPECT_EQ("e1", names[3]);
-
-  names = After({1, 4, 99, kCopyInsertEntries});
-  EXPECT_EQ("e2", names[32]);  // beyond the end they are appended
-
-  SelectEntry(kStageBlocks, 35);
-  names = After({10, 35, 0, kDeleteEntries});
-  EXPECT_EQ(10u, names.size());
-  EXPECT_EQ(9, Edit().m_iPltIndex) << "a selection past the end moves to the last entry";
-}
-
-TEST_F(PaletteMoveTest, RangesOutsideTheRealEntriesAreRefused) {
-  EXPECT_FALSE(MoveEntries(kStageBlocks, {0, 3, 10, kMoveEntries}));
-  EXPECT_FALSE(MoveEntries(kStageBlocks, {3, 30, 10, kMoveEntries}));
-  EXPECT_FALSE(MoveEntries(kStageBlocks, {5, 4, 10, kMoveEntries}));
-  EXPECT_EQ(30u, Stage().size());
+  // The selection of the other palette isn't this list's to move.
+  SelectEntry(kCommonBlocks, 9);
+  ASSERT_TRUE(MoveEntries(kStageBlocks, Request(1, 12, 0, eMoveOp::Erase)));
+  EXPECT_EQ(9, Edit().m_iPltIndex);
 }
 
 TEST_F(PaletteMoveTest, CellsFollowTheListAndLoseEntriesThatAreGone) {
@@ -260,9 +239,9 @@ TEST_F(PaletteMoveTest, CellsFollowTheListAndLoseEntriesThatAreGone) {
   SetInherit(lost, kInheritStage, 20, std::vector<uint8_t>(kBlockInheritGroups, 1));
   ASSERT_EQ("e2", follower.m_strName);
 
-  ASSERT_TRUE(MoveEntries(kStageBlocks, {2, 2, 25, kMoveEntries}));
+  ASSERT_TRUE(MoveEntries(kStageBlocks, Request(2, 2, 25, eMoveOp::Move)));
   EXPECT_EQ("e3", follower.m_strName);
-  ASSERT_TRUE(MoveEntries(kStageBlocks, {10, 29, 0, kDeleteEntries}));
+  ASSERT_TRUE(MoveEntries(kStageBlocks, Request(10, 29, 0, eMoveOp::Erase)));
   RefreshAfterListChange(kStageBlocks);
   EXPECT_EQ(kInheritNone, lost.m_nInheritSrc);
   EXPECT_EQ(kInheritStage, follower.m_nInheritSrc);

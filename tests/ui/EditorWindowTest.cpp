@@ -11,7 +11,7 @@
 
 #include "support/ScriptedPrompt.h"
 #include "support/TempProject.h"
-#include "EditorLock.h"
+#include "EditorOnSample.h"
 #include "core/DoubleStart.h"
 #include "core/SaveData.h"
 #include "objects/Palette.h"
@@ -31,33 +31,9 @@ namespace {
 
 constexpr char kStage1[] = "data\\stg4\\Stage1.stg4_950";
 
-// The editor started in a fresh copy of the sample project, driven the way
-// the author drives it.
-class EditorWindow : public ::testing::Test {
+// The editor on the sample project, seen through its stage window.
+class EditorWindow : public cEditorOnSample {
  protected:
-  void SetUp() override {
-    std::string error;
-    ASSERT_TRUE(sample::MakeSampleProject(project.Path(), false, error)) << error;
-    otherEditor = HoldEditorLock();
-    ASSERT_NE(otherEditor, nullptr);
-    StartEditor();
-    ASSERT_NE(Stage(), nullptr);
-  }
-  // The test holds the editor's lock itself, so every start meets the
-  // double-start question, whatever else runs beside it, and goes on.
-  void StartEditor() {
-    app.reset();
-    prompt.QueueAnswer(eAnswer::Yes);
-    app = std::make_unique<cEditorApp>(&prompt);
-    ASSERT_TRUE(app->Start());
-    ASSERT_FALSE(prompt.Shown().empty());
-    EXPECT_EQ(prompt.Shown().front().caption, "二重起動");
-  }
-  void TearDown() override {
-    app.reset();
-    g_bNoSave = 0;
-  }
-
   cStageWindow* Stage() const { return app->StageWindow(); }
   QWidget* Client() const { return static_cast<cDialogWindow*>(Stage()->Window())->Client(); }
   void Command(int id) { Stage()->SendCommand(MakeCommand(id, kNoticeClicked), 0); }
@@ -96,10 +72,6 @@ class EditorWindow : public ::testing::Test {
     return false;
   }
 
-  cTempProject project;
-  std::unique_ptr<cInstanceLock> otherEditor;
-  cScriptedPrompt prompt;
-  std::unique_ptr<cEditorApp> app;
 };
 
 TEST_F(EditorWindow, StartsOnTheStageEditedLastWithItsNameInTheTitle) {

@@ -128,6 +128,9 @@ TEST_F(PaletteWindowTest, ALeftClickPicksTheEntryUnderTheMouse) {
   EXPECT_EQ(0, StageEdit().m_iPltSource);
   EXPECT_EQ(11, StageEdit().m_vecBrushBlock.at(0).m_nGraphicNo);
   EXPECT_GT(stageRepaints, 0);
+  EXPECT_TRUE(window.WantsIdle()) << "the picture waits for the idle step";
+  Windows().IdleRepaint();
+  EXPECT_FALSE(window.WantsIdle());
   EXPECT_EQ(qRgb(255, 255, 255), window.Picture().pixel(3 * 32, 32 + 10)) << "the selection frame";
   EXPECT_EQ(QString::fromUtf8("11 : b11"), window.Window()->findChild<QStatusBar*>()->findChild<QLabel*>()->text());
 

@@ -281,6 +281,7 @@ int cEditorApp::IdleStep() {
   for (cDialog* dialog : windows) {
     if (m_pManager->Contains(dialog)) dialog->Idle();
   }
+  if (cPaletteWindows* palettes = m_pStageWindow->Palettes()) palettes->IdleRepaint();
   return 1;
 }
 

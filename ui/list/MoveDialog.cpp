@@ -1,6 +1,7 @@
 #include "ui/list/MoveDialog.h"
 
 #include <QComboBox>
+#include <QWidget>
 
 #include "ui/framework/QtText.h"
 
@@ -13,9 +14,10 @@ constexpr int kIdTargetSpin = 1013;
 
 }  // namespace
 
-cMoveDialog::cMoveDialog(cDialogManager& manager, QWidget* parent, cMoveRequest& request, int count)
-    : cDialog(manager, parent) {
+cMoveDialog::cMoveDialog(cDialogManager& manager, QWidget* parent, cMoveRequest& request, int count, QPoint position)
+    : cDialog(manager, parent), m_position(position) {
   SetTitle(Ui("データの移動"));
+  SetLogName("move dialog");
   const double lastEntry = count - 1;
   m_form.rows = {
       {nullptr, cEditValDesc{kIdFirst, &request.nFirst, 1, lastEntry, kIdFirstSpin, 1}},
@@ -23,6 +25,11 @@ cMoveDialog::cMoveDialog(cDialogManager& manager, QWidget* parent, cMoveRequest&
       {nullptr, cEditValDesc{kIdTarget, &request.nTarget, 1, double(count), kIdTargetSpin, 1}, nullptr, "番へ"},
       {nullptr, cComboDesc{kIdOp, &request.nOp, SysTexts({"移動", "コピー＆挿入", "削除"})}, nullptr, nullptr, true},
   };
+}
+
+void cMoveDialog::OnInitDialog() {
+  cDialog::OnInitDialog();
+  if (Window()) Window()->move(m_position);
 }
 
 void cMoveDialog::UpdateEnables() {

@@ -21,9 +21,10 @@
 #include "ui/framework/Commands.h"
 #include "ui/framework/DialogWindow.h"
 #include "ui/framework/Hook.h"
+#include "ui/framework/IdleWake.h"
 #include "ui/framework/QtText.h"
 #include "ui/framework/StockDialogs.h"
-#include "ui/palette/PaletteMoveDialog.h"
+#include "ui/list/MoveDialog.h"
 #include "ui/palette/PaletteCommands.h"
 #include "ui/palette/SurfaceImage.h"
 #include "ui/stage/StageViewRules.h"
@@ -102,6 +103,10 @@ void cPaletteWindow::OnInitDialog() {
   HorzBar()->Bar()->hide();
   Window()->findChild<cClientArea*>()->setFixedWidth(kClientWidth);
   SetAccel(0, PaletteAccelerators());
+  QObject::connect(VertBar()->Bar(), &QScrollBar::valueChanged, Window(), [this](int row) {
+    m_iTopRow = row;
+    RequestRepaint();
+  });
   RebuildScrollBar();
   ShowToolState();
 }
@@ -196,15 +201,24 @@ void cPaletteWindow::ShowToolState() {
   }
 }
 
+void cPaletteWindow::RequestRepaint() {
+  m_bRepaintWanted = true;
+  WakeIdle();
+}
+
 void cPaletteWindow::Repaint() {
+  static uint64_t repaints = 0;
+  m_bRepaintWanted = false;
+  m_nLastRepaint = ++repaints;
   if (!Window()) return;
-  if (VertBar()) m_iTopRow = VertBar()->Position();
   Render();
   Window()->findChild<cClientArea*>()->update();
 }
 
 void cPaletteWindow::OnPaint(QPainter& painter) {
-  Render();
+  // Qt's own paints show the idle step's picture; only the first one,
+  // before any idle step, draws.
+  if (m_picture.isNull()) Render();
   painter.drawImage(0, 0, m_picture);
 }
 
@@ -302,6 +316,7 @@ bool cPaletteWindow::OnDialogMessage(QEvent& event) {
       // The framework takes the new client size first.
       OnWindowMessage(event);
       RebuildScrollBar();
+      RequestRepaint();
       return false;
     case QEvent::Wheel:
       Wheel(static_cast<QWheelEvent&>(event).angleDelta().y());
@@ -318,7 +333,6 @@ bool cPaletteWindow::OnDialogMessage(QEvent& event) {
 void cPaletteWindow::Wheel(int delta) {
   if (!VertBar()) return;
   VertBar()->SetPosition(VertBar()->Position() + WheelCells(delta));
-  Repaint();
 }
 
 // ---- commands ----
@@ -367,7 +381,7 @@ void cPaletteWindow::AfterListCommand() {
 
 void cPaletteWindow::Changed() {
   if (m_links.paletteChanged) m_links.paletteChanged();
-  else Repaint();
+  else RequestRepaint();
 }
 
 void cPaletteWindow::ChangeCount() {
@@ -377,8 +391,10 @@ void cPaletteWindow::ChangeCount() {
 }
 
 void cPaletteWindow::MoveEntriesDialog() {
-  cPaletteMoveDialog dialog(Manager(), Window(), Side(), Window()->pos());
-  m_bListChanged = dialog.DoModal(0) == 1;
+  cMoveRequest request;
+  cMoveDialog dialog(Manager(), Window(), request, PaletteCount(Side()), Window()->pos());
+  if (dialog.DoModal(0) != 1) return;
+  m_bListChanged = MoveEntries(Side(), request);
 }
 
 void cPaletteWindow::Cut() { CopyEntry(Side(), StageEdit().m_iPltIndex, true); Changed(); }

@@ -50,9 +50,17 @@ class cPaletteWindow : public cDialog {
 
   void RebuildScrollBar();
   void ShowToolState();
+  // Changes are drawn by the next idle step, which repaints the six windows
+  // in their fixed order; this asks for it.
+  void RequestRepaint();
+  // Draws the picture anew; the idle step's part.
   void Repaint();
+  bool WantsIdle() const override { return m_bRepaintWanted; }
   // The picture of the last paint, as the window shows it.
   const QImage& Picture() const { return m_picture; }
+  // Counts the repaints of all palette windows: a later repaint has a
+  // greater number.
+  uint64_t LastRepaint() const { return m_nLastRepaint; }
   void OnCommand(uint32_t wParam, intptr_t lParam) override;
 
  protected:
@@ -103,6 +111,8 @@ class cPaletteWindow : public cDialog {
   cPaletteLinks m_links;
   int m_iTopRow = 0;
   bool m_bListChanged = false;
+  bool m_bRepaintWanted = false;
+  uint64_t m_nLastRepaint = 0;
   cSurface m_surface;
   QImage m_picture;
 };

@@ -91,8 +91,8 @@ void cPaletteWindows::Refresh() {
   for (const auto& window : m_aPalette) {
     window->RebuildScrollBar();
     window->ShowToolState();
+    window->RequestRepaint();
   }
-  IdleRepaint();
   m_pGroupWnd->ShowGroups(UsedGroupNumbers());
 }
 

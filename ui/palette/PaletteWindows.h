@@ -27,10 +27,12 @@ class cPaletteWindows {
   // Shows the windows of a layer whose visibility setting is on and hides
   // the rest.
   void ShowLayer(int layer);
-  // After the stage or a palette changed: scroll bars, buttons, pictures
-  // and the group boxes.
+  // After the stage or a palette changed: scroll bars, buttons and the
+  // group boxes; the pictures follow in the next idle step.
   void Refresh();
-  // The repaint of each idle step, in its fixed order.
+  // The repaint of each idle step, hidden windows too: stage blocks,
+  // common blocks, stage characters, common characters, stage items,
+  // common items.
   void IdleRepaint();
 
   // The visibility settings of the common palettes, the stage palettes and

@@ -1,0 +1,157 @@
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <poll.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "EditorOnSample.h"
+#include "SampleDialog.h"
+#include "core/PrjOption.h"
+#include "core/TestPlay.h"
+#include "platform/MessageChannel.h"
+#include "stage/Stage.h"
+#include "stage/StageEdit.h"
+
+namespace velmora::testing {
+namespace {
+
+constexpr int kTestPlayCommand = 40006;
+const char kStageHost[] = "data/stg4/Stage1.stg4_950";
+
+// The editor's own test play host, with a clock of the test's and a game
+// start that is only noted.
+struct cClockedHost : cTestPlayHost {
+  explicit cClockedHost(cTestPlayHost& editor) : editor(editor) {}
+  uint32_t Now() override { return now; }
+  bool StartGame(const std::string& program, const std::vector<std::string>& args) override {
+    starts.push_back(args);
+    return !program.empty();
+  }
+  void ClearHistory() override { editor.ClearHistory(); }
+  void AllocHistory() override { editor.AllocHistory(); }
+  void RedrawStageWindow() override { editor.RedrawStageWindow(); }
+  void ActivateStageWindow() override { editor.ActivateStageWindow(); }
+  void ClearActiveFlag() override { editor.ClearActiveFlag(); }
+
+  cTestPlayHost& editor;
+  uint32_t now = 100000;
+  std::vector<std::vector<std::string>> starts;
+};
+
+class TestPlayInTheEditor : public cEditorOnSample {
+ protected:
+  void SetUp() override {
+    cEditorOnSample::SetUp();
+    if (HasFatalFailure()) return;
+    ProjectOption().m_bAutoGame = 0;
+    ProjectOption().m_strGamePath = "game";
+    WriteText("game", "");
+    ASSERT_TRUE(EditStage().HasPlayer());
+    savedStage = ReadBytes(kStageHost);
+    host = std::make_unique<cClockedHost>(TestPlayHost());
+    SetTestPlayHost(host.get());
+  }
+  // The boxes shown since the start, without the stage save's progress.
+  std::vector<std::string> Boxes() const {
+    std::vector<std::string> texts;
+    for (size_t i = 1; i < prompt.Shown().size(); ++i) {
+      if (prompt.Shown()[i].caption != "ステージの保存") texts.push_back(prompt.Shown()[i].text);
+    }
+    return texts;
+  }
+  bool StageSaved() const { return ReadBytes(kStageHost) != savedStage; }
+  static bool HistoryBuilt() {
+    return StageEdit().m_vecUndoBlock.size() == static_cast<size_t>(EditStage().m_iUndoCount);
+  }
+
+  std::unique_ptr<cClockedHost> host;
+  std::vector<uint8_t> savedStage;
+};
+
+TEST_F(TestPlayInTheEditor, AStageWithoutPlayerOrPathIsRefusedWithItsMessage) {
+  EditStage().m_vecCharaCell.assign(EditStage().m_vecCharaCell.size(), cEdChara());
+  EditStage().m_vecBlockCell.at(3).m_nGraphicNo = 1;
+  StageEdit().m_bStageChanged = 1;
+  Command(Stage(), kTestPlayCommand);
+  EXPECT_EQ((std::vector<std::string>{"プレイヤーが配置されていません！"}), Boxes());
+  EXPECT_EQ(0, StageEdit().m_bTestPlay);
+  EXPECT_FALSE(StageSaved());
+  EXPECT_TRUE(StageEdit().m_bStageChanged);
+
+  StageEdit().m_strPath.clear();
+  Command(Stage(), kTestPlayCommand);
+  ASSERT_EQ(2u, Boxes().size());
+  EXPECT_EQ("ステージファイルのパスが無効です！\n1度はステージを保存しないと、テストプレイは実行できません！", Boxes()[1]);
+  EXPECT_EQ(0, StageEdit().m_bTestPlay);
+  EXPECT_TRUE(host->starts.empty());
+}
+
+TEST_F(TestPlayInTheEditor, F5TwiceWithinASecondIsOneStartAndAgainLaterIsADoubleStart) {
+  const std::string path = StageEdit().m_strPath;
+  // F5 in a palette window goes to the stage window.
+  Activate(Palettes().Palette({0, 0}).Window());
+  QWidget* focus = QApplication::focusWidget();
+  QTest::keyClick(focus ? focus : QApplication::activeWindow(), Qt::Key_F5);
+  ASSERT_EQ(1u, host->starts.size());
+  EXPECT_EQ(std::vector<std::string>{path}, host->starts[0]);
+  EXPECT_TRUE(Boxes().empty());
+  EXPECT_EQ(1, StageEdit().m_bTestPlay);
+  EXPECT_TRUE(StageEdit().m_vecUndoBlock.empty()) << "the undo history is cleared";
+
+  host->now += 1000;
+  Command(Stage(), kTestPlayCommand);
+  EXPECT_TRUE(Boxes().empty());
+  host->now += 3000;
+  Command(Stage(), kTestPlayCommand);
+  ASSERT_EQ(1u, Boxes().size());
+  EXPECT_EQ(0u, Boxes()[0].find("二重起動はできません！\n\n"));
+  EXPECT_EQ(1u, host->starts.size());
+  EXPECT_EQ(1, StageEdit().m_bTestPlay);
+
+  OnTestPlayEnd();
+  EXPECT_EQ(0, StageEdit().m_bTestPlay);
+  EXPECT_TRUE(HistoryBuilt());
+}
+
+bool WaitReadable(int fd, int timeoutMs) {
+  pollfd watch{fd, POLLIN, 0};
+  return ::poll(&watch, 1, timeoutMs) == 1;
+}
+
+TEST_F(TestPlayInTheEditor, TheStandinGamePlaysTheSavedStageAndTheEditorBuildsItsHistoryAnew) {
+  // The editor comes up again with its own host and the game beside it.
+  std::filesystem::copy_file(VELMORA_STANDIN_GAME, "velmora-standin-game");
+  StartEditor();
+  ProjectOption().m_bAutoGame = 1;
+  // The game reports to a channel of the test's, so that no editor running
+  // beside the tests hears it; the editor takes it as from its own.
+  const std::string channel = "Velmora_Editor.test." + std::to_string(::getpid());
+  ::setenv("VELMORA_EDITOR_CHANNEL", channel.c_str(), 1);
+  cMessageReceiver receiver;
+  ASSERT_TRUE(receiver.Open(channel));
+
+  Stage().ScrollTo(0, 0);
+  PickEntry({0, 0}, 1);
+  Click(Stage(), QPoint(4 * 32 + 10, 2 * 32 + 10));
+  Command(Stage(), kTestPlayCommand);
+  ASSERT_EQ(1, StageEdit().m_bTestPlay);
+  EXPECT_FALSE(StageEdit().m_bStageChanged);
+  ASSERT_TRUE(WaitReadable(receiver.Fd(), 20000));
+  TakeGameMessages(receiver);
+  ::unsetenv("VELMORA_EDITOR_CHANNEL");
+
+  EXPECT_EQ(0, StageEdit().m_bTestPlay);
+  EXPECT_TRUE(HistoryBuilt());
+  EXPECT_GT(EditStage().m_iUndoCount, 0);
+  const std::string report = ReadText("Report_StandinGame.txt");
+  EXPECT_EQ(0u, report.find("stage " + StageEdit().m_strPath + "\n")) << report;
+  const cStage& saved = EditStage();
+  EXPECT_NE(std::string::npos, report.find("player " + std::to_string(saved.FindPlayer().x))) << report;
+}
+
+}  // namespace
+}  // namespace velmora::testing

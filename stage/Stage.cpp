@@ -186,16 +186,24 @@ cCellPos cStage::FindPlayer() const {
 }
 
 void cStage::RemoveSurplusPlayers() {
-  std::vector<size_t> players;
+  std::vector<int32_t> players;
   for (int y = 0; y < m_nHeight; ++y) {
     for (int x = 0; x < m_nWidth; ++x) {
       const size_t index = static_cast<size_t>(CellIndex(x, y));
-      if (index < m_vecCharaCell.size() && IsPlayer(m_vecCharaCell[index])) players.push_back(index);
+      if (index < m_vecCharaCell.size() && IsPlayer(m_vecCharaCell[index])) players.push_back(static_cast<int32_t>(index));
     }
   }
-  if (players.size() < 2) return;
-  players.pop_back();
-  for (size_t index : players) EraseCell(m_vecCharaCell[index]);
+  KeepLastPlayer(players);
+}
+
+void cStage::KeepLastPlayer(std::span<const int32_t> cells) {
+  const int32_t* last = nullptr;
+  for (const int32_t& index : cells) {
+    cEdChara& cell = VecAt(m_vecCharaCell, index);
+    if (!IsPlayer(cell)) continue;
+    if (last) EraseCell(VecAt(m_vecCharaCell, *last));
+    last = &index;
+  }
 }
 
 cStage& EditStage() {

@@ -1,6 +1,7 @@
 #pragma once
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -127,6 +128,9 @@ class cStage : public cSaveData {
   cCellPos FindPlayer() const;
   bool HasPlayer() const { return FindPlayer().x != -1; }
   void RemoveSurplusPlayers();
+  // The same among `cells` alone, in rising order: all the players that
+  // the layer can hold when the rest of it is known to be empty.
+  void KeepLastPlayer(std::span<const int32_t> cells);
 
   void Load(cDataFile& file) override;
   void Save(cDataFile& file) override;

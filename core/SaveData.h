@@ -80,6 +80,7 @@ void VisitVector(cNestedVisitor& visitor, const char* name, const Vector& vec) {
 struct cRecordLayout {
   std::vector<cSaveField> fields;
   std::vector<cSaveString> strings;
+  size_t scalarBytes = 0;  // of all the fields together, as a file holds them
 };
 
 // Base of every stored record. A derived class states its stored members in

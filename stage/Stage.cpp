@@ -20,23 +20,20 @@ void FillToTwo(std::vector<T>& list, const T& defaultEntry, eEntryKind kind) {
   SetInherit(list[1], option.m_anDefSrc[kMomentStage][kind], 1, option.m_vDefFlags[kMomentStage][kind]);
 }
 
+// `checked`, when given, marks the entries to leave out.
 template <class T>
-void CheckEntries(std::vector<T>& list) {
-  for (T& entry : list) {
-    entry.CheckRefs();
-    if constexpr (std::is_same_v<T, cEdBlock>) {
-      entry.CheckItemRef();
-    } else {
-      entry.CheckCmdRefs();
-    }
+void CheckEntries(std::vector<T>& list, const std::vector<uint8_t>* checked = nullptr) {
+  for (size_t i = 0; i < list.size(); ++i) {
+    if (!checked || !VecAt(*checked, i)) CheckEntryRefs(list[i]);
   }
 }
 
+// Copies of one blank record: cheaper by far than building each anew.
 template <class T>
 void ResetLayer(std::vector<T>& layer, size_t cells) {
   layer.clear();
   layer.shrink_to_fit();
-  layer.resize(cells);
+  layer.assign(cells, T());
 }
 
 // Where old cells land after a change of size: an enlarged stage keeping
@@ -150,13 +147,15 @@ void cStage::ApplyHitLevel(int level) {
   m_iHitStep8 = m_iHitStep * 8;
 }
 
-void cStage::Normalize() {
+void cStage::Normalize() { Normalize(nullptr); }
+
+void cStage::Normalize(const cCheckedCells* checked) {
   cStagePaletteScope scope(*this);
   ClampScrollLimits();
   ApplyHitLevel(m_iHitLevel);
   if (m_iBgm >= RefSizes().DbListSize(eDbList::Bgm)) m_iBgm = 0;
   FillShortPalettes();
-  CheckAllRefs();
+  CheckAllRefs(checked);
 }
 
 void cStage::FillShortPalettes() {
@@ -166,13 +165,17 @@ void cStage::FillShortPalettes() {
   FillToTwo(m_vecItemPlt, option.m_DefItem, kKindItem);
 }
 
-void cStage::CheckAllRefs() {
+bool cStage::PalettesComplete() const {
+  return m_vecBlockPlt.size() >= 2 && m_vecCharaPlt.size() >= 2 && m_vecItemPlt.size() >= 2;
+}
+
+void cStage::CheckAllRefs(const cCheckedCells* checked) {
   CheckEntries(m_vecBlockPlt);
   CheckEntries(m_vecCharaPlt);
   CheckEntries(m_vecItemPlt);
-  CheckEntries(m_vecBlockCell);
-  CheckEntries(m_vecCharaCell);
-  CheckEntries(m_vecItemCell);
+  CheckEntries(m_vecBlockCell, checked ? &checked->block : nullptr);
+  CheckEntries(m_vecCharaCell, checked ? &checked->chara : nullptr);
+  CheckEntries(m_vecItemCell, checked ? &checked->item : nullptr);
 }
 
 cCellPos cStage::FindPlayer() const {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "core/SaveData.h"
@@ -140,13 +141,32 @@ class cStage : public cSaveData {
   void Register(uint32_t version) override;
 
  private:
+  // Per layer, the cells whose checks ran as they were read (1), so that
+  // the normalising after a load need not visit them again.
+  struct cCheckedCells {
+    std::vector<uint8_t> block, chara, item;
+  };
+  void Normalize(const cCheckedCells* checked);
   void ClampScrollLimits();
   void FillShortPalettes();
-  void CheckAllRefs();
-  void LoadPlacements(cDataFile& file);
+  bool PalettesComplete() const;
+  void CheckAllRefs(const cCheckedCells* checked);
+  void LoadPlacements(cDataFile& file, cCheckedCells* checked);
   void SavePlacements(cDataFile& file);
   void ApplyFixups();
 };
+
+// Both checks of an entry: its own references, then those into the
+// palettes, once all the palettes are in place.
+template <class T>
+void CheckEntryRefs(T& entry) {
+  entry.CheckRefs();
+  if constexpr (std::is_same_v<T, cEdBlock>) {
+    entry.CheckItemRef();
+  } else {
+    entry.CheckCmdRefs();
+  }
+}
 
 // An erased cell is a blank entry with no graphic.
 template <class T>

@@ -91,30 +91,30 @@ size_t FieldBytes(const cSaveField& field) {
   return static_cast<size_t>(field.count) * static_cast<size_t>(field.size);
 }
 
-// Fields are mostly one to eight bytes: copies of a known width compile to
-// plain moves.
-void CopyField(void* target, const char* source, size_t bytes) {
-  switch (bytes) {
-    case 1: std::memcpy(target, source, 1); break;
-    case 2: std::memcpy(target, source, 2); break;
-    case 4: std::memcpy(target, source, 4); break;
-    case 8: std::memcpy(target, source, 8); break;
-    default: std::memcpy(target, source, bytes); break;
+void BuildRuns(cRecordLayout& layout) {
+  for (const cSaveField& field : layout.fields) {
+    const size_t bytes = FieldBytes(field);
+    layout.scalarBytes += bytes;
+    cFieldRun* last = layout.runs.empty() ? nullptr : &layout.runs.back();
+    if (last && !last->dropped && !field.dropped && last->offset + static_cast<std::ptrdiff_t>(last->bytes) == field.offset) {
+      last->bytes += bytes;
+    } else {
+      layout.runs.push_back({field.offset, bytes, field.dropped});
+    }
   }
 }
 
-// A block that is whole in the buffer is copied field by field from there.
+// A block that is whole in the buffer is copied run by run from there.
 bool ReadWholeScalarBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& file) {
   const char* source = file.ReadSpan(layout.scalarBytes);
   if (!source) return false;
-  for (const cSaveField& field : layout.fields) {
-    const size_t bytes = FieldBytes(field);
-    if (!field.dropped) {
-      CopyField(At<char>(record, field.offset), source, bytes);
-    } else if (bytes <= sizeof g_nDropped) {
-      std::memcpy(&g_nDropped, source, bytes);
+  for (const cFieldRun& run : layout.runs) {
+    if (!run.dropped) {
+      std::memcpy(At<char>(record, run.offset), source, run.bytes);
+    } else if (run.bytes <= sizeof g_nDropped) {
+      std::memcpy(&g_nDropped, source, run.bytes);
     }
-    source += bytes;
+    source += run.bytes;
   }
   return true;
 }
@@ -137,15 +137,14 @@ void ReadScalarBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& 
 
 void WriteScalarBlock(const cSaveData* record, const cRecordLayout& layout, cDataFile& file) {
   char* target = file.WriteSpan(layout.scalarBytes);
-  for (const cSaveField& field : layout.fields) {
-    const size_t bytes = FieldBytes(field);
-    const char* source = field.dropped ? reinterpret_cast<const char*>(&g_nDropped) : At<char>(record, field.offset);
+  for (const cFieldRun& run : layout.runs) {
+    const char* source = run.dropped ? reinterpret_cast<const char*>(&g_nDropped) : At<char>(record, run.offset);
     if (!target) {
-      file.Write(source, bytes);
+      file.Write(source, run.bytes);
       continue;
     }
-    CopyField(target, source, bytes);
-    target += bytes;
+    std::memcpy(target, source, run.bytes);
+    target += run.bytes;
   }
 }
 
@@ -207,7 +206,7 @@ class cLayoutBuilder {
     const_cast<cSaveData&>(record).Register(version);
     t_building = outerLayout;
     t_buildingRecord = outerRecord;
-    for (const cSaveField& field : layout->fields) layout->scalarBytes += FieldBytes(field);
+    BuildRuns(*layout);
     return layout;
   }
 };

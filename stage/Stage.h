@@ -156,16 +156,22 @@ class cStage : public cSaveData {
   void ApplyFixups();
 };
 
-// Both checks of an entry: its own references, then those into the
-// palettes, once all the palettes are in place.
+// The second check of an entry: its references into the palettes, once
+// all the palettes are in place.
 template <class T>
-void CheckEntryRefs(T& entry) {
-  entry.CheckRefs();
+void CheckPaletteRefs(T& entry) {
   if constexpr (std::is_same_v<T, cEdBlock>) {
     entry.CheckItemRef();
   } else {
     entry.CheckCmdRefs();
   }
+}
+
+// Both checks: the entry's own references, then those into the palettes.
+template <class T>
+void CheckEntryRefs(T& entry) {
+  entry.CheckRefs();
+  CheckPaletteRefs(entry);
 }
 
 // An erased cell is a blank entry with no graphic.

@@ -10,7 +10,9 @@ constexpr uint64_t kMinPlacementBytes = 12;
 
 // With `checked`, each cell runs the checks of the normalising at once,
 // while it is still in the cache, and is marked for the normalising to
-// pass over.
+// pass over. Its own Load has just run the first check against the same
+// lists, and a second run of it finds nothing more to repair, so only the
+// palette check is left.
 template <class T>
 void LoadLayer(std::vector<T>& layer, cDataFile& file, std::vector<uint8_t>* checked) {
   if (checked) checked->assign(layer.size(), 0);
@@ -21,7 +23,7 @@ void LoadLayer(std::vector<T>& layer, cDataFile& file, std::vector<uint8_t>* che
     T& cell = VecAt(layer, index);
     cell.Load(file);
     if (!checked) continue;
-    CheckEntryRefs(cell);
+    CheckPaletteRefs(cell);
     VecAt(*checked, index) = 1;
   }
 }

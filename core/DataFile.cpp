@@ -8,11 +8,6 @@
 #include "platform/FileSystem.h"
 
 namespace velmora {
-namespace {
-
-constexpr size_t kStreamBuffer = 1 << 16;
-
-}  // namespace
 
 std::unique_ptr<cDataFile> cDataFile::OpenForRead(const std::string& stored) {
   std::FILE* file = OpenFile(stored, "rb");
@@ -45,14 +40,13 @@ std::unique_ptr<cDataFile> cDataFile::FromMemory(const void* data, size_t size) 
 cDataFile::~cDataFile() { Close(); }
 
 bool cDataFile::Refill() {
-  if (m_buffer.empty()) m_buffer.resize(kStreamBuffer);
   const size_t wanted = static_cast<size_t>(std::min<uint64_t>(m_buffer.size(), Remaining()));
   m_nBufPos = 0;
   m_nBufEnd = fread_unlocked(m_buffer.data(), 1, wanted, m_pFile);
   return m_nBufEnd > 0;
 }
 
-bool cDataFile::Read(void* target, size_t bytes) {
+bool cDataFile::ReadThroughBuffer(void* target, size_t bytes) {
   if (m_bEnded || bytes > Remaining()) {
     m_bEnded = true;
     return false;
@@ -74,6 +68,31 @@ bool cDataFile::Read(void* target, size_t bytes) {
   return true;
 }
 
+const char* cDataFile::ReadSpan(size_t bytes) {
+  if (m_bEnded || bytes > Remaining() || bytes > kStreamBuffer) return nullptr;
+  if (bytes > m_nBufEnd - m_nBufPos) {
+    // Keep what is buffered and fill the rest of the buffer behind it.
+      const size_t kept = m_nBufEnd - m_nBufPos;
+    std::memmove(m_buffer.data(), m_buffer.data() + m_nBufPos, kept);
+    const size_t wanted = static_cast<size_t>(std::min<uint64_t>(m_buffer.size() - kept, Remaining() - kept));
+    m_nBufPos = 0;
+    m_nBufEnd = kept + fread_unlocked(m_buffer.data() + kept, 1, wanted, m_pFile);
+    if (bytes > m_nBufEnd) return nullptr;
+  }
+  const char* span = m_buffer.data() + m_nBufPos;
+  m_nBufPos += bytes;
+  m_nPos += bytes;
+  return span;
+}
+
+char* cDataFile::WriteSpan(size_t bytes) {
+  if (m_bWriteFailed || bytes > kStreamBuffer) return nullptr;
+  if (bytes > m_buffer.size() - m_nBufEnd) Flush();
+  char* span = m_buffer.data() + m_nBufEnd;
+  m_nBufEnd += bytes;
+  return span;
+}
+
 bool cDataFile::Skip(size_t bytes) {
   if (m_bEnded || bytes > Remaining()) {
     m_bEnded = true;
@@ -93,9 +112,8 @@ bool cDataFile::Skip(size_t bytes) {
   return true;
 }
 
-void cDataFile::Write(const void* source, size_t bytes) {
+void cDataFile::WriteThroughBuffer(const void* source, size_t bytes) {
   if (bytes == 0 || m_bWriteFailed) return;
-  if (m_buffer.empty()) m_buffer.resize(kStreamBuffer);
   if (bytes > m_buffer.size() - m_nBufEnd) Flush();
   if (bytes >= m_buffer.size()) {
     if (fwrite_unlocked(source, 1, bytes, m_pFile) != bytes) m_bWriteFailed = true;

@@ -1,6 +1,7 @@
 #pragma once
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,11 +22,30 @@ class cDataFile {
   cDataFile(const cDataFile&) = delete;
   cDataFile& operator=(const cDataFile&) = delete;
 
-  bool Read(void* target, size_t bytes);
+  // Records move a few bytes at a time, so the buffered case is inline.
+  bool Read(void* target, size_t bytes) {
+    if (m_bEnded || bytes > m_nBufEnd - m_nBufPos) return ReadThroughBuffer(target, bytes);
+    std::memcpy(target, m_buffer.data() + m_nBufPos, bytes);
+    m_nBufPos += bytes;
+    m_nPos += bytes;
+    return true;
+  }
   bool ReadInt32(int32_t& value) { return Read(&value, sizeof value); }
   bool Skip(size_t bytes);
-  void Write(const void* source, size_t bytes);
+  void Write(const void* source, size_t bytes) {
+    if (m_bWriteFailed || bytes > m_buffer.size() - m_nBufEnd) return WriteThroughBuffer(source, bytes);
+    std::memcpy(m_buffer.data() + m_nBufEnd, source, bytes);
+    m_nBufEnd += bytes;
+  }
   void WriteInt32(int32_t value) { Write(&value, sizeof value); }
+
+  // The next `bytes` of the file in one piece, consumed; null, with nothing
+  // consumed, when the file or the buffer cannot hold that many. A caller
+  // then reads piece by piece. Valid until the next call on the file.
+  const char* ReadSpan(size_t bytes);
+  // Room for the next `bytes` of output, counted as written; null when the
+  // buffer is smaller or a write failed, and the caller writes piecewise.
+  char* WriteSpan(size_t bytes);
 
   // Bytes left to read. A count that promises more than this is damaged.
   uint64_t Remaining() const { return m_nSize - m_nPos; }
@@ -39,12 +59,14 @@ class cDataFile {
   bool Close();
 
  private:
-  explicit cDataFile(std::FILE* file, uint64_t size) : m_pFile(file), m_nSize(size) {}
+  static constexpr size_t kStreamBuffer = size_t{1} << 16;
+  explicit cDataFile(std::FILE* file, uint64_t size) : m_pFile(file), m_buffer(kStreamBuffer), m_nSize(size) {}
   bool Refill();
+  bool ReadThroughBuffer(void* target, size_t bytes);
+  void WriteThroughBuffer(const void* source, size_t bytes);
   void Flush();
   std::FILE* m_pFile;
-  // Records move a few bytes at a time; they go through this buffer so that
-  // the C library is called once per block, not once per field.
+  // The C library is called once per block of this buffer, not per field.
   std::vector<char> m_buffer;
   size_t m_nBufPos = 0;
   size_t m_nBufEnd = 0;

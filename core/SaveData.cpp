@@ -1,5 +1,7 @@
 #include "core/SaveData.h"
 
+#include <algorithm>
+#include <array>
 #include <cstring>
 #include <map>
 #include <memory>
@@ -50,15 +52,23 @@ std::map<cLayoutKey, std::unique_ptr<cRecordLayout>>& Layouts() {
   return layouts;
 }
 
-// The one-entry memo in front of the shared table: records are mostly read
-// and written in runs of one class.
+// A small memo per thread in front of the shared table. Nested records
+// take turns by the million in a stage file (character, flow, condition,
+// command ...), so it holds a few classes at once, each found by the
+// address of its type.
 struct cLayoutMemo {
   const std::type_info* type = nullptr;
   uint32_t version = 0;
   uint32_t variant = 0;
   const cRecordLayout* layout = nullptr;
 };
-thread_local cLayoutMemo t_memo;
+constexpr size_t kMemoSlots = 64;
+thread_local std::array<cLayoutMemo, kMemoSlots> t_memo;
+
+cLayoutMemo& MemoSlot(const std::type_info* type, uint32_t version, uint32_t variant) {
+  const auto bits = reinterpret_cast<uintptr_t>(type);
+  return t_memo[((bits >> 3) ^ (bits >> 9) ^ (version * 7u) ^ variant) % kMemoSlots];
+}
 
 template <class T>
 T* At(const cSaveData* record, std::ptrdiff_t offset) {
@@ -77,18 +87,64 @@ bool EntryInRange(const std::vector<Entry>& list, int index, cDataFile& file) {
   return false;
 }
 
+size_t FieldBytes(const cSaveField& field) {
+  return static_cast<size_t>(field.count) * static_cast<size_t>(field.size);
+}
+
+void BuildRuns(cRecordLayout& layout) {
+  for (const cSaveField& field : layout.fields) {
+    const size_t bytes = FieldBytes(field);
+    layout.scalarBytes += bytes;
+    cFieldRun* last = layout.runs.empty() ? nullptr : &layout.runs.back();
+    if (last && !last->dropped && !field.dropped && last->offset + static_cast<std::ptrdiff_t>(last->bytes) == field.offset) {
+      last->bytes += bytes;
+    } else {
+      layout.runs.push_back({field.offset, bytes, field.dropped});
+    }
+  }
+}
+
+// A block that is whole in the buffer is copied run by run from there.
+bool ReadWholeScalarBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& file) {
+  const char* source = file.ReadSpan(layout.scalarBytes);
+  if (!source) return false;
+  for (const cFieldRun& run : layout.runs) {
+    if (!run.dropped) {
+      std::memcpy(At<char>(record, run.offset), source, run.bytes);
+    } else if (run.bytes <= sizeof g_nDropped) {
+      std::memcpy(&g_nDropped, source, run.bytes);
+    }
+    source += run.bytes;
+  }
+  return true;
+}
+
 void ReadScalarBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& file) {
   int32_t entries = 0;
   if (!file.ReadInt32(entries)) return;
+  if (static_cast<size_t>(entries) == layout.fields.size() && ReadWholeScalarBlock(record, layout, file)) return;
   for (int32_t i = 0; i < entries; ++i) {
     if (!EntryInRange(layout.fields, i, file)) return;
     const cSaveField& field = layout.fields[static_cast<size_t>(i)];
-    const size_t bytes = static_cast<size_t>(field.count) * static_cast<size_t>(field.size);
+    const size_t bytes = FieldBytes(field);
     if (field.dropped) {
       if (bytes <= sizeof g_nDropped ? !file.Read(&g_nDropped, bytes) : !file.Skip(bytes)) return;
     } else if (!file.Read(At<char>(record, field.offset), bytes)) {
       return;
     }
+  }
+}
+
+void WriteScalarBlock(const cSaveData* record, const cRecordLayout& layout, cDataFile& file) {
+  char* target = file.WriteSpan(layout.scalarBytes);
+  for (const cFieldRun& run : layout.runs) {
+    const char* source = run.dropped ? reinterpret_cast<const char*>(&g_nDropped) : At<char>(record, run.offset);
+    if (!target) {
+      file.Write(source, run.bytes);
+      continue;
+    }
+    std::memcpy(target, source, run.bytes);
+    target += run.bytes;
   }
 }
 
@@ -150,6 +206,7 @@ class cLayoutBuilder {
     const_cast<cSaveData&>(record).Register(version);
     t_building = outerLayout;
     t_buildingRecord = outerRecord;
+    BuildRuns(*layout);
     return layout;
   }
 };
@@ -157,7 +214,8 @@ class cLayoutBuilder {
 const cRecordLayout& cSaveData::Layout(uint32_t version) const {
   const std::type_info& type = typeid(*this);
   const uint32_t variant = LayoutVariant();
-  if (t_memo.type == &type && t_memo.version == version && t_memo.variant == variant) return *t_memo.layout;
+  cLayoutMemo& memo = MemoSlot(&type, version, variant);
+  if (memo.type == &type && memo.version == version && memo.variant == variant) return *memo.layout;
 
   const cLayoutKey key{std::type_index(type), version, variant};
   const cRecordLayout* layout = nullptr;
@@ -173,7 +231,7 @@ const cRecordLayout& cSaveData::Layout(uint32_t version) const {
     auto [it, inserted] = Layouts().try_emplace(key, std::move(built));
     layout = it->second.get();
   }
-  t_memo = {&type, version, variant, layout};
+  memo = {&type, version, variant, layout};
   return *layout;
 }
 
@@ -218,10 +276,7 @@ void cSaveData::Load(cDataFile& file) {
 void cSaveData::Save(cDataFile& file) {
   const cRecordLayout& layout = Layout(g_nAppVersion);
   file.WriteInt32(static_cast<int32_t>(layout.fields.size()));
-  for (const cSaveField& field : layout.fields) {
-    const size_t bytes = static_cast<size_t>(field.count) * static_cast<size_t>(field.size);
-    file.Write(field.dropped ? static_cast<void*>(&g_nDropped) : At<char>(this, field.offset), bytes);
-  }
+  WriteScalarBlock(this, layout, file);
   file.WriteInt32(static_cast<int32_t>(layout.strings.size()));
   for (const cSaveString& entry : layout.strings) {
     WriteStreamString(file, entry.dropped ? g_strDropped : *At<std::string>(this, entry.offset));
@@ -273,7 +328,7 @@ void cSaveData::Reset() {
   const cRecordLayout& layout = Layout(g_nAppVersion);
   for (const cSaveField& field : layout.fields) {
     if (field.dropped) continue;
-    std::memset(At<char>(this, field.offset), 0, static_cast<size_t>(field.count) * static_cast<size_t>(field.size));
+    std::memset(At<char>(this, field.offset), 0, FieldBytes(field));
   }
   for (const cSaveString& entry : layout.strings) {
     if (!entry.dropped) At<std::string>(this, entry.offset)->clear();
@@ -288,7 +343,7 @@ void cSaveData::CopyFrom(const cSaveData& other) {
     const cSaveField& field = layout.fields[i];
     if (field.dropped) continue;
     std::memmove(At<char>(this, field.offset), At<char>(&other, source.fields[i].offset),
-                 static_cast<size_t>(field.count) * static_cast<size_t>(field.size));
+                 FieldBytes(field));
   }
   const size_t strings = std::min(layout.strings.size(), source.strings.size());
   for (size_t i = 0; i < strings; ++i) {
@@ -355,8 +410,8 @@ int32_t ReadCount(cDataFile& file, uint64_t minBytesPerElement) {
     file.MarkDamaged();
     return 0;
   }
-  const uint64_t fits = file.Remaining() / (minBytesPerElement ? minBytesPerElement : 1);
-  if (static_cast<uint64_t>(count) > fits) {
+  // A count is below 2^31 and an element a few bytes: the product can't wrap.
+  if (static_cast<uint64_t>(count) * std::max<uint64_t>(minBytesPerElement, 1) > file.Remaining()) {
     file.MarkDamaged();
     return 0;
   }

@@ -77,9 +77,19 @@ void VisitVector(cNestedVisitor& visitor, const char* name, const Vector& vec) {
   visitor.EndArray();
 }
 
+// Neighbouring fields that lie back to back in the record as in the file,
+// moved as one piece. A retired field is a run of its own.
+struct cFieldRun {
+  std::ptrdiff_t offset = 0;
+  size_t bytes = 0;
+  bool dropped = false;
+};
+
 struct cRecordLayout {
   std::vector<cSaveField> fields;
   std::vector<cSaveString> strings;
+  std::vector<cFieldRun> runs;  // the fields again, in file order
+  size_t scalarBytes = 0;       // of all the fields together, as a file holds them
 };
 
 // Base of every stored record. A derived class states its stored members in

@@ -35,17 +35,18 @@ const cParamRef kParamRefs[] = {
 
 bool Beyond(int value, eDbList list) { return value >= RefSizes().DbListSize(list); }
 
-void CheckParamRefs(cEdCmd& c) {
+// `kind` is the command's kind in CmdTable numbering.
+void CheckParamRefs(cEdCmd& c, int kind) {
   for (const cParamRef& ref : kParamRefs) {
-    if (ref.kind != c.TableKind() || static_cast<size_t>(ref.index) >= c.m_vParam.size()) continue;
+    if (ref.kind != kind || static_cast<size_t>(ref.index) >= c.m_vParam.size()) continue;
     if (ref.whenP0 != kAnyP0 && c.m_vParam[0] != ref.whenP0) continue;
     int32_t& value = c.m_vParam[static_cast<size_t>(ref.index)];
     if (Beyond(value, ref.list)) value = ref.repaired;
   }
 }
 
-void CheckSword(cEdCmd& c) {
-  if (c.TableKind() != kCmdSword || !c.m_pShot) return;
+void CheckSword(cEdCmd& c, int kind) {
+  if (kind != kCmdSword || !c.m_pShot) return;
   if (Beyond(c.m_pShot->m_nMoveType, eDbList::SwordType)) c.m_pShot->m_nMoveType = 0;
   if (std::optional<int> time = RefSizes().SwordTypeTime(c.m_pShot->m_nMoveType)) {
     c.m_nTime = static_cast<int16_t>(*time);
@@ -106,8 +107,9 @@ void cEdCmd::CheckCmd() {
   if (Beyond(m_nAnime, eDbList::Anime)) m_nAnime = 0;
   if (Beyond(m_nSound, eDbList::Sound)) m_nSound = 0;
   m_vParam.resize(static_cast<size_t>(CmdParamCount(m_bItemCmd != 0, m_nKind)), 0);
-  CheckSword(*this);
-  CheckParamRefs(*this);
+  const int kind = TableKind();
+  CheckSword(*this, kind);
+  CheckParamRefs(*this, kind);
   for (cEdFlow& flow : m_vSubFlow) flow.CheckFlow();
 }
 

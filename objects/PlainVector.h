@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <cstring>
 #include <vector>
 
 #include "core/DataFile.h"
@@ -17,8 +18,17 @@ void LoadPlainVector(std::vector<T>& vec, cDataFile& file) {
     file.MarkDamaged();
     return;
   }
+  const size_t bytes = static_cast<size_t>(count) * sizeof(T);
+  // A list of the stored length is read in place: a stage's cells come with
+  // their flag lists already made.
+  if (vec.size() == static_cast<size_t>(count)) {
+    if (const char* values = file.ReadSpan(bytes)) {
+      std::memcpy(vec.data(), values, bytes);
+      return;
+    }
+  }
   std::vector<T> values(static_cast<size_t>(count));
-  if (file.Read(values.data(), values.size() * sizeof(T))) vec = std::move(values);
+  if (file.Read(values.data(), bytes)) vec = std::move(values);
 }
 
 template <class T>

@@ -20,23 +20,20 @@ void FillToTwo(std::vector<T>& list, const T& defaultEntry, eEntryKind kind) {
   SetInherit(list[1], option.m_anDefSrc[kMomentStage][kind], 1, option.m_vDefFlags[kMomentStage][kind]);
 }
 
+// `checked`, when given, marks the entries to leave out.
 template <class T>
-void CheckEntries(std::vector<T>& list) {
-  for (T& entry : list) {
-    entry.CheckRefs();
-    if constexpr (std::is_same_v<T, cEdBlock>) {
-      entry.CheckItemRef();
-    } else {
-      entry.CheckCmdRefs();
-    }
+void CheckEntries(std::vector<T>& list, const std::vector<uint8_t>* checked = nullptr) {
+  for (size_t i = 0; i < list.size(); ++i) {
+    if (!checked || !VecAt(*checked, i)) CheckEntryRefs(list[i]);
   }
 }
 
+// Copies of one blank record: cheaper by far than building each anew.
 template <class T>
 void ResetLayer(std::vector<T>& layer, size_t cells) {
   layer.clear();
   layer.shrink_to_fit();
-  layer.resize(cells);
+  layer.assign(cells, T());
 }
 
 // Where old cells land after a change of size: an enlarged stage keeping
@@ -150,13 +147,15 @@ void cStage::ApplyHitLevel(int level) {
   m_iHitStep8 = m_iHitStep * 8;
 }
 
-void cStage::Normalize() {
+void cStage::Normalize() { Normalize(nullptr); }
+
+void cStage::Normalize(const cCheckedCells* checked) {
   cStagePaletteScope scope(*this);
   ClampScrollLimits();
   ApplyHitLevel(m_iHitLevel);
   if (m_iBgm >= RefSizes().DbListSize(eDbList::Bgm)) m_iBgm = 0;
   FillShortPalettes();
-  CheckAllRefs();
+  CheckAllRefs(checked);
 }
 
 void cStage::FillShortPalettes() {
@@ -166,13 +165,17 @@ void cStage::FillShortPalettes() {
   FillToTwo(m_vecItemPlt, option.m_DefItem, kKindItem);
 }
 
-void cStage::CheckAllRefs() {
+bool cStage::PalettesComplete() const {
+  return m_vecBlockPlt.size() >= 2 && m_vecCharaPlt.size() >= 2 && m_vecItemPlt.size() >= 2;
+}
+
+void cStage::CheckAllRefs(const cCheckedCells* checked) {
   CheckEntries(m_vecBlockPlt);
   CheckEntries(m_vecCharaPlt);
   CheckEntries(m_vecItemPlt);
-  CheckEntries(m_vecBlockCell);
-  CheckEntries(m_vecCharaCell);
-  CheckEntries(m_vecItemCell);
+  CheckEntries(m_vecBlockCell, checked ? &checked->block : nullptr);
+  CheckEntries(m_vecCharaCell, checked ? &checked->chara : nullptr);
+  CheckEntries(m_vecItemCell, checked ? &checked->item : nullptr);
 }
 
 cCellPos cStage::FindPlayer() const {
@@ -186,16 +189,24 @@ cCellPos cStage::FindPlayer() const {
 }
 
 void cStage::RemoveSurplusPlayers() {
-  std::vector<size_t> players;
+  std::vector<int32_t> players;
   for (int y = 0; y < m_nHeight; ++y) {
     for (int x = 0; x < m_nWidth; ++x) {
       const size_t index = static_cast<size_t>(CellIndex(x, y));
-      if (index < m_vecCharaCell.size() && IsPlayer(m_vecCharaCell[index])) players.push_back(index);
+      if (index < m_vecCharaCell.size() && IsPlayer(m_vecCharaCell[index])) players.push_back(static_cast<int32_t>(index));
     }
   }
-  if (players.size() < 2) return;
-  players.pop_back();
-  for (size_t index : players) EraseCell(m_vecCharaCell[index]);
+  KeepLastPlayer(players);
+}
+
+void cStage::KeepLastPlayer(std::span<const int32_t> cells) {
+  const int32_t* last = nullptr;
+  for (const int32_t& index : cells) {
+    cEdChara& cell = VecAt(m_vecCharaCell, index);
+    if (!IsPlayer(cell)) continue;
+    if (last) EraseCell(VecAt(m_vecCharaCell, *last));
+    last = &index;
+  }
 }
 
 cStage& EditStage() {

@@ -1,7 +1,9 @@
 #pragma once
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "core/SaveData.h"
@@ -127,6 +129,9 @@ class cStage : public cSaveData {
   cCellPos FindPlayer() const;
   bool HasPlayer() const { return FindPlayer().x != -1; }
   void RemoveSurplusPlayers();
+  // The same among `cells` alone, in rising order: all the players that
+  // the layer can hold when the rest of it is known to be empty.
+  void KeepLastPlayer(std::span<const int32_t> cells);
 
   void Load(cDataFile& file) override;
   void Save(cDataFile& file) override;
@@ -136,13 +141,38 @@ class cStage : public cSaveData {
   void Register(uint32_t version) override;
 
  private:
+  // Per layer, the cells whose checks ran as they were read (1), so that
+  // the normalising after a load need not visit them again.
+  struct cCheckedCells {
+    std::vector<uint8_t> block, chara, item;
+  };
+  void Normalize(const cCheckedCells* checked);
   void ClampScrollLimits();
   void FillShortPalettes();
-  void CheckAllRefs();
-  void LoadPlacements(cDataFile& file);
+  bool PalettesComplete() const;
+  void CheckAllRefs(const cCheckedCells* checked);
+  void LoadPlacements(cDataFile& file, cCheckedCells* checked);
   void SavePlacements(cDataFile& file);
   void ApplyFixups();
 };
+
+// The second check of an entry: its references into the palettes, once
+// all the palettes are in place.
+template <class T>
+void CheckPaletteRefs(T& entry) {
+  if constexpr (std::is_same_v<T, cEdBlock>) {
+    entry.CheckItemRef();
+  } else {
+    entry.CheckCmdRefs();
+  }
+}
+
+// Both checks: the entry's own references, then those into the palettes.
+template <class T>
+void CheckEntryRefs(T& entry) {
+  entry.CheckRefs();
+  CheckPaletteRefs(entry);
+}
 
 // An erased cell is a blank entry with no graphic.
 template <class T>

@@ -25,6 +25,12 @@ struct cStageEdit {
   std::vector<std::vector<cEdChara>> m_vecUndoChara, m_vecRedoChara;
   std::vector<std::vector<cEdItem>> m_vecUndoItem, m_vecRedoItem;
   std::vector<uint32_t> m_vecUndoMask, m_vecRedoMask;
+  // The occupied cells that each slot holds, per layer and in rising
+  // order: undo and redo then cost what a step holds, not the stage's size.
+  struct cSlotCells {
+    std::vector<int32_t> block, chara, item;
+  };
+  std::vector<cSlotCells> m_vecUndoCells, m_vecRedoCells;
   int32_t m_iUndoNum = 0;
   int32_t m_iRedoNum = 0;
   int32_t m_bTestPlay = 0;

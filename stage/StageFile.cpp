@@ -8,13 +8,23 @@ namespace {
 // Each placement holds at least its index and the record's two counts.
 constexpr uint64_t kMinPlacementBytes = 12;
 
+// With `checked`, each cell runs the checks of the normalising at once,
+// while it is still in the cache, and is marked for the normalising to
+// pass over. Its own Load has just run the first check against the same
+// lists, and a second run of it finds nothing more to repair, so only the
+// palette check is left.
 template <class T>
-void LoadLayer(std::vector<T>& layer, cDataFile& file) {
+void LoadLayer(std::vector<T>& layer, cDataFile& file, std::vector<uint8_t>* checked) {
+  if (checked) checked->assign(layer.size(), 0);
   const int32_t count = ReadCount(file, kMinPlacementBytes);
   for (int32_t i = 0; i < count; ++i) {
     int32_t index = 0;
     if (!file.ReadInt32(index)) return;
-    VecAt(layer, index).Load(file);
+    T& cell = VecAt(layer, index);
+    cell.Load(file);
+    if (!checked) continue;
+    CheckPaletteRefs(cell);
+    VecAt(*checked, index) = 1;
   }
 }
 
@@ -194,7 +204,11 @@ void cStage::Load(cDataFile& file) {
     SetSize(kStageViewWidth, kStageViewHeight, 0, 0);
     return;
   }
-  LoadPlacements(file);
+  // A short palette is filled by the normalising, which changes what the
+  // checks find; only with complete palettes can they run early.
+  cCheckedCells checked;
+  cCheckedCells* early = PalettesComplete() ? &checked : nullptr;
+  LoadPlacements(file, early);
   LoadVector(m_vecBack, file);
   LoadVector(m_vecStageVar, file);
   if (g_nFileVersion >= kFirstTrailerVersion) {
@@ -202,13 +216,13 @@ void cStage::Load(cDataFile& file) {
     file.ReadInt32(trailer);
   }
   if (g_nFileVersion < 950) ApplyFixups();
-  Normalize();
+  Normalize(early);
 }
 
-void cStage::LoadPlacements(cDataFile& file) {
-  LoadLayer(m_vecBlockCell, file);
-  LoadLayer(m_vecCharaCell, file);
-  LoadLayer(m_vecItemCell, file);
+void cStage::LoadPlacements(cDataFile& file, cCheckedCells* checked) {
+  LoadLayer(m_vecBlockCell, file, checked ? &checked->block : nullptr);
+  LoadLayer(m_vecCharaCell, file, checked ? &checked->chara : nullptr);
+  LoadLayer(m_vecItemCell, file, checked ? &checked->item : nullptr);
 }
 
 void cStage::ApplyFixups() {

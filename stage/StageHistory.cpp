@@ -24,14 +24,27 @@ struct cLayers {
   std::vector<cEdItem>* item;
 };
 
+using cSlotCells = cStageEdit::cSlotCells;
+
+// Runs `fn` with the member pointers of each layer in the mask, blocks,
+// characters, items.
+template <class Fn>
+void ForEachLayer(uint32_t mask, Fn&& fn) {
+  if (mask & kLayerBlock) fn(&cLayers::block, &cSlotCells::block);
+  if (mask & kLayerChara) fn(&cLayers::chara, &cSlotCells::chara);
+  if (mask & kLayerItem) fn(&cLayers::item, &cSlotCells::item);
+}
+
 struct cStack {
   std::vector<std::vector<cEdBlock>>& block;
   std::vector<std::vector<cEdChara>>& chara;
   std::vector<std::vector<cEdItem>>& item;
   std::vector<uint32_t>& masks;
+  std::vector<cSlotCells>& cells;
   int32_t& count;
 
   cLayers Slot(int i) { return {&VecAt(block, i), &VecAt(chara, i), &VecAt(item, i)}; }
+  cSlotCells& Cells(int i) { return VecAt(cells, i); }
 
   // Moves slot `to - 1` to the front (right) or the front slot to `to - 1`
   // (left) by swapping buffers: a step is never copied within its stack.
@@ -47,17 +60,18 @@ struct cStack {
     rotate(chara.begin(), chara.begin() + n);
     rotate(item.begin(), item.begin() + n);
     rotate(masks.begin(), masks.begin() + n);
+    rotate(cells.begin(), cells.begin() + n);
   }
 };
 
 cStack UndoStack() {
   cStageEdit& e = StageEdit();
-  return {e.m_vecUndoBlock, e.m_vecUndoChara, e.m_vecUndoItem, e.m_vecUndoMask, e.m_iUndoNum};
+  return {e.m_vecUndoBlock, e.m_vecUndoChara, e.m_vecUndoItem, e.m_vecUndoMask, e.m_vecUndoCells, e.m_iUndoNum};
 }
 
 cStack RedoStack() {
   cStageEdit& e = StageEdit();
-  return {e.m_vecRedoBlock, e.m_vecRedoChara, e.m_vecRedoItem, e.m_vecRedoMask, e.m_iRedoNum};
+  return {e.m_vecRedoBlock, e.m_vecRedoChara, e.m_vecRedoItem, e.m_vecRedoMask, e.m_vecRedoCells, e.m_iRedoNum};
 }
 
 cLayers PresentLayers() {
@@ -65,74 +79,104 @@ cLayers PresentLayers() {
   return {&s.m_vecBlockCell, &s.m_vecCharaCell, &s.m_vecItemCell};
 }
 
-// An empty cell costs one store: a sparse stage copies fast. The bounds
-// are checked once, as the loop runs over every cell of the largest stage.
-template <class T>
-void CopyLayer(std::vector<T>& dst, const std::vector<T>& src) {
+// Lists the occupied cells of a layer inside the stage, in rising order,
+// and hands each to `take`. The bounds are checked once, as the loop runs
+// over every cell of the largest stage.
+template <class T, class Take>
+void ScanOccupied(const std::vector<T>& layer, Take&& take) {
   const cStage& stage = EditStage();
   if (stage.m_nHeight <= 0 || stage.m_nWidth <= 0) return;
   const int last = stage.CellIndex(stage.m_nWidth - 1, stage.m_nHeight - 1);
-  const size_t shorter = std::min(dst.size(), src.size());
-  if (static_cast<size_t>(last) >= shorter) {
-    BadIndex('V', last, static_cast<int>(shorter), static_cast<int>(sizeof(T)), eBadIndexClose::DestroyAtOnce);
+  if (static_cast<size_t>(last) >= layer.size()) {
+    BadIndex('V', last, static_cast<int>(layer.size()), static_cast<int>(sizeof(T)), eBadIndexClose::DestroyAtOnce);
     return;
   }
   for (int y = 0; y < stage.m_nHeight; ++y) {
-    const size_t row = static_cast<size_t>(stage.CellIndex(0, y));
-    for (size_t i = row; i < row + static_cast<size_t>(stage.m_nWidth); ++i) {
-      if (IsOccupied(src[i])) {
-        dst[i] = src[i];
-      } else {
-        dst[i].m_nGraphicNo = 0;
-      }
+    const int row = stage.CellIndex(0, y);
+    for (int i = row; i < row + stage.m_nWidth; ++i) {
+      if (IsOccupied(layer[static_cast<size_t>(i)])) take(i);
     }
   }
 }
 
-void CopyLayers(const cLayers& dst, const cLayers& src, uint32_t mask) {
-  if (mask & kLayerBlock) CopyLayer(*dst.block, *src.block);
-  if (mask & kLayerChara) CopyLayer(*dst.chara, *src.chara);
-  if (mask & kLayerItem) CopyLayer(*dst.item, *src.item);
+// The cells that the slot held from an earlier step are emptied first, so
+// that the slot reads as a whole copy of the layer.
+template <class T>
+void Snapshot(std::vector<T>& slot, std::vector<int32_t>& held, const std::vector<T>& layer) {
+  for (int32_t i : held) VecAt(slot, i).m_nGraphicNo = 0;
+  held.clear();
+  if (slot.size() < layer.size()) {
+    BadIndex('V', static_cast<int>(layer.size()) - 1, static_cast<int>(slot.size()), static_cast<int>(sizeof(T)),
+             eBadIndexClose::DestroyAtOnce);
+    return;
+  }
+  ScanOccupied(layer, [&](int i) {
+    slot[static_cast<size_t>(i)] = layer[static_cast<size_t>(i)];
+    held.push_back(i);
+  });
+}
+
+// The layer's cells `occupied` are emptied and the slot's cells come back
+// in their place, each with what it inherits now.
+template <class T>
+void Restore(std::vector<T>& layer, const std::vector<int32_t>& occupied, const std::vector<T>& slot,
+             const std::vector<int32_t>& held) {
+  for (int32_t i : occupied) VecAt(layer, i).m_nGraphicNo = 0;
+  for (int32_t i : held) {
+    T& cell = VecAt(layer, i);
+    cell = VecAt(slot, i);
+    cell.ApplyInherit();
+  }
 }
 
 // The oldest step falls off a full stack: its buffers take the new one.
-void PushStep(uint32_t mask, cStack stack) {
+// False when nothing may be recorded.
+bool PushStep(uint32_t mask, cStack stack) {
   const int levels = EditStage().m_iUndoCount;
-  if (levels <= 0 || StageEdit().m_bTestPlay) return;
+  if (levels <= 0 || StageEdit().m_bTestPlay) return false;
   stack.RotateRight(levels);
   VecAt(stack.masks, 0) = mask;
-  CopyLayers(stack.Slot(0), PresentLayers(), mask);
+  const cLayers slot = stack.Slot(0);
+  const cLayers present = PresentLayers();
+  cSlotCells& held = stack.Cells(0);
+  ForEachLayer(mask, [&](auto layer, auto cells) { Snapshot(*(slot.*layer), held.*cells, *(present.*layer)); });
   if (stack.count < levels) ++stack.count;
-}
-
-template <class T>
-void InheritOccupied(std::vector<T>& cells) {
-  const cStage& stage = EditStage();
-  for (int y = 0; y < stage.m_nHeight; ++y) {
-    for (int x = 0; x < stage.m_nWidth; ++x) {
-      T& cell = VecAt(cells, stage.CellIndex(x, y));
-      if (IsOccupied(cell)) cell.ApplyInherit();
-    }
-  }
+  return true;
 }
 
 // Moves the newest step of `from` back into the stage; the present state
-// of its layers goes to `to`.
+// of its layers goes to `to`, whose newest slot then lists what is occupied
+// now.
 void StepBack(cStack from, cStack to) {
   if (EditStage().m_iUndoCount <= 0 || from.count <= 0) return;
   const uint32_t mask = VecAt(from.masks, 0);
-  PushStep(mask, to);
-  cLayers present = PresentLayers();
-  CopyLayers(present, from.Slot(0), mask);
+  cSlotCells scanned;
+  const cSlotCells* occupied = &scanned;
+  const cLayers present = PresentLayers();
+  if (PushStep(mask, to)) {
+    occupied = &to.Cells(0);
+  } else {
+    ForEachLayer(mask, [&](auto layer, auto cells) {
+      ScanOccupied(*(present.*layer), [&](int i) { (scanned.*cells).push_back(i); });
+    });
+  }
+  const cLayers slot = from.Slot(0);
+  const cSlotCells& held = from.Cells(0);
   {
     cStagePaletteScope scope(EditStage());
-    if (mask & kLayerBlock) InheritOccupied(*present.block);
-    if (mask & kLayerChara) InheritOccupied(*present.chara);
-    if (mask & kLayerItem) InheritOccupied(*present.item);
+    ForEachLayer(mask, [&](auto layer, auto cells) {
+      Restore(*(present.*layer), occupied->*cells, *(slot.*layer), held.*cells);
+    });
+  }
+  // Only the restored cells can hold players when the character layer came
+  // back; otherwise the whole layer is looked at.
+  if (mask & kLayerChara) {
+    EditStage().KeepLastPlayer(held.chara);
+  } else {
+    EditStage().RemoveSurplusPlayers();
   }
   from.RotateLeft(from.count);
   --from.count;
-  EditStage().RemoveSurplusPlayers();
 }
 
 // A slot cell is only read when a copy made it occupied, and such a copy
@@ -145,6 +189,15 @@ void AllocSlots(std::vector<std::vector<T>>& slots, int level, size_t cells) {
   VecAt(slots, level).assign(cells, blank);
 }
 
+// Full room for every list, so that recording never allocates.
+void ReserveCells(std::vector<cSlotCells>& slots, int level, size_t cells) {
+  cSlotCells& held = VecAt(slots, level);
+  for (std::vector<int32_t>* list : {&held.block, &held.chara, &held.item}) {
+    list->clear();
+    list->reserve(cells);
+  }
+}
+
 void AllocAllSlots(int levels, size_t cells) {
   cStageEdit& e = StageEdit();
   e.m_vecUndoBlock.resize(static_cast<size_t>(levels));
@@ -155,6 +208,8 @@ void AllocAllSlots(int levels, size_t cells) {
   e.m_vecRedoItem.resize(static_cast<size_t>(levels));
   e.m_vecUndoMask.assign(static_cast<size_t>(levels), 0);
   e.m_vecRedoMask.assign(static_cast<size_t>(levels), 0);
+  e.m_vecUndoCells.resize(static_cast<size_t>(levels));
+  e.m_vecRedoCells.resize(static_cast<size_t>(levels));
   for (int level = 0; level < levels; ++level) {
     AllocSlots(e.m_vecUndoBlock, level, cells);
     AllocSlots(e.m_vecUndoChara, level, cells);
@@ -162,6 +217,8 @@ void AllocAllSlots(int levels, size_t cells) {
     AllocSlots(e.m_vecRedoBlock, level, cells);
     AllocSlots(e.m_vecRedoChara, level, cells);
     AllocSlots(e.m_vecRedoItem, level, cells);
+    ReserveCells(e.m_vecUndoCells, level, cells);
+    ReserveCells(e.m_vecRedoCells, level, cells);
   }
 }
 
@@ -179,6 +236,8 @@ void ClearHistory() {
   for (auto* slots : {&e.m_vecUndoItem, &e.m_vecRedoItem}) std::vector<std::vector<cEdItem>>().swap(*slots);
   std::vector<uint32_t>().swap(e.m_vecUndoMask);
   std::vector<uint32_t>().swap(e.m_vecRedoMask);
+  std::vector<cSlotCells>().swap(e.m_vecUndoCells);
+  std::vector<cSlotCells>().swap(e.m_vecRedoCells);
   e.m_iUndoNum = 0;
   e.m_iRedoNum = 0;
 }

@@ -178,6 +178,41 @@ TEST_F(SaveDataTest, ShortFileEndsItsBlockAndKeepsTheRest) {
   EXPECT_EQ("before", record.m_strName);
 }
 
+TEST_F(SaveDataTest, RecordsAcrossTheStreamBufferKeepEveryFieldAndACutFileEndsCleanly) {
+  // Enough records that blocks and strings straddle the stream's buffer.
+  cSampleHolder holder;
+  holder.m_vItem.resize(3000);
+  for (size_t i = 0; i < holder.m_vItem.size(); ++i) {
+    cSampleRecord& item = holder.m_vItem[i];
+    item.m_nLife = static_cast<int32_t>(i);
+    item.m_dRate = 0.25 * static_cast<double>(i);
+    item.m_anParam[2] = -static_cast<int32_t>(i);
+    item.m_strName = std::string(i % 37, 'n');
+  }
+  ASSERT_EQ(1, holder.SaveFile("many.dat"));
+  std::vector<uint8_t> bytes = ReadBytes("many.dat");
+  ASSERT_GT(bytes.size(), 3u * 65536u);
+
+  cSampleHolder loaded;
+  ASSERT_EQ(1, loaded.LoadFile("many.dat"));
+  ASSERT_EQ(holder.m_vItem.size(), loaded.m_vItem.size());
+  for (size_t i = 0; i < holder.m_vItem.size(); ++i) {
+    EXPECT_TRUE(IsSame(holder.m_vItem[i], loaded.m_vItem[i])) << i;
+    EXPECT_EQ(holder.m_vItem[i].m_anParam[2], loaded.m_vItem[i].m_anParam[2]) << i;
+  }
+
+  // Cut past the first buffer, inside a record: the records before it are
+  // whole, the cut one has its leading fields, and nothing runs away.
+  bytes.resize(70001);
+  WriteBytes("cut.dat", bytes);
+  cSampleHolder cut;
+  ASSERT_EQ(1, cut.LoadFile("cut.dat"));
+  size_t whole = 0;
+  while (whole < cut.m_vItem.size() && IsSame(cut.m_vItem[whole], holder.m_vItem[whole])) ++whole;
+  EXPECT_GT(whole, 800u);
+  EXPECT_LT(whole, holder.m_vItem.size());
+}
+
 TEST_F(SaveDataTest, FewerEntriesThanTheClassKnowsLeaveTheRestAsTheyWere) {
   cBytes bytes;
   bytes.I32(1).I32(12).I32(1).Str("only");

@@ -49,15 +49,56 @@ TEST_F(StageHistory, FullStackDropsOldestAndNewStrokeEmptiesRedo) {
 }
 
 TEST_F(StageHistory, UndoRemovesSurplusPlayerKeepingTheLastInRowOrder) {
+  // A step that holds two players, as a damaged or hand-made state may.
   Chara(5, 0) = CharaOf(1, 0);
-  RecordStep(kLayerChara);
-  Chara(5, 0) = cEdChara();
   Chara(2, 3) = CharaOf(1, 0);
-  // A step that brings the old player back while the new one stands.
-  StageEdit().m_vecUndoChara[0][Index(2, 3)] = CharaOf(1, 0);
+  Chara(7, 1) = CharaOf(4);
+  RecordStep(kLayerChara);
+  EraseCell(Chara(5, 0));
+  EraseCell(Chara(2, 3));
+  Chara(9, 9) = CharaOf(2);
   Undo();
   EXPECT_FALSE(IsOccupied(Chara(5, 0)));
   EXPECT_TRUE(IsPlayer(Chara(2, 3)));
+  EXPECT_EQ(Chara(7, 1).m_nGraphicNo, 4);
+  EXPECT_FALSE(IsOccupied(Chara(9, 9)));
+
+  // A block step leaves the characters as they stand, but two players
+  // among them are still one too many.
+  Block(0, 0) = BlockOf(1);
+  RecordStep(kLayerBlock);
+  Chara(1, 1) = CharaOf(1, 0);
+  Undo();
+  EXPECT_FALSE(IsOccupied(Chara(1, 1)));
+  EXPECT_TRUE(IsPlayer(Chara(2, 3)));
+}
+
+TEST_F(StageHistory, UndoAndRedoAfterManyStepsKeepEveryLayerExact) {
+  // Steps of changing masks over cells that fill and empty again: each
+  // undo must bring back the layers exactly, nothing left over from older
+  // contents of the reused slots.
+  std::vector<std::vector<int16_t>> states;
+  auto state = [] {
+    std::vector<int16_t> graphics;
+    for (const cEdBlock& cell : EditStage().m_vecBlockCell) graphics.push_back(cell.m_nGraphicNo);
+    for (const cEdItem& cell : EditStage().m_vecItemCell) graphics.push_back(cell.m_nGraphicNo);
+    return graphics;
+  };
+  for (int step = 0; step < 5; ++step) {
+    states.push_back(state());
+    RecordStep(step % 2 ? kLayerAll : kLayerBlock | kLayerItem);
+    EraseCell(Block(step, 0));
+    Block(step + 1, step) = BlockOf(static_cast<int16_t>(step + 1));
+    Item(step, 2) = cEdItem();
+    Item(step, 2).m_nGraphicNo = static_cast<int16_t>(10 + step);
+  }
+  const std::vector<int16_t> last = state();
+  for (int step = 4; step >= 2; --step) {
+    Undo();
+    EXPECT_EQ(state(), states[static_cast<size_t>(step)]) << step;
+  }
+  for (int i = 0; i < 3; ++i) Redo();
+  EXPECT_EQ(state(), last);
 }
 
 TEST_F(StageHistory, NothingIsRecordedWithoutLevelsOrDuringTestPlay) {

@@ -196,6 +196,42 @@ TEST(StageFileTest, HeldItemIsTheCountOfItemsBeforeIt) {
   EXPECT_EQ(-1, Cell(loaded, loaded.m_vecCharaCell, 9, 9).m_nHeldItem);
 }
 
+// A project whose lists shrank since the stage was saved: 3 rows in every
+// database list and in each common palette list.
+class cShrunkProject : public cRefSizes {
+ public:
+  int DbListSize(eDbList) const override { return 3; }
+  int PaletteListSize(ePalette palette, ePaletteList list) const override {
+    return palette == ePalette::Common ? 3 : cRefSizes::PaletteListSize(palette, list);
+  }
+};
+
+TEST(StageFileTest, LoadChecksPlacedAndEmptyCellsAgainstTheProjectAsItIsNow) {
+  cTempProject project;
+  cStage stage = NewStage();
+  cEdBlock& giver = Cell(stage, stage.m_vecBlockCell, 3, 2);
+  giver.m_nGraphicNo = 1;
+  giver.m_nGetItemSrc = 1;
+  giver.m_nGetItemNo = 5;
+  PutItem(stage, 6, 1);
+  Cell(stage, stage.m_vecItemCell, 6, 1).m_nGetSound = 7;
+  ASSERT_EQ(1, stage.SaveFile("s.stg4_950"));
+
+  cShrunkProject shrunk;
+  InstallRefSizes(&shrunk);
+  cStage loaded;
+  EXPECT_EQ(1, loaded.LoadFile("s.stg4_950"));
+  InstallRefSizes(nullptr);
+  // Both checks reach the placed cells: their own rows and the palettes.
+  EXPECT_EQ(0, Cell(loaded, loaded.m_vecItemCell, 6, 1).m_nGetSound);
+  EXPECT_EQ(0, Cell(loaded, loaded.m_vecBlockCell, 3, 2).m_nGetItemSrc);
+  EXPECT_EQ(0, Cell(loaded, loaded.m_vecBlockCell, 3, 2).m_nGetItemNo);
+  // A cell that no placement named is checked as well: an empty block
+  // loses its type.
+  EXPECT_EQ(1, cEdBlock().m_nBlockType);
+  EXPECT_EQ(0, Cell(loaded, loaded.m_vecBlockCell, 0, 0).m_nBlockType);
+}
+
 TEST(StageFileTest, OldStageGetsItsFixups) {
   cTempProject project;
   cStage stage = NewStage(33, 15);

@@ -10,6 +10,8 @@ namespace {
 
 constexpr uint16_t kPcmFormat = 1;
 
+void AppendTag(std::vector<uint8_t>& out, const char* tag) { out.insert(out.end(), tag, tag + std::strlen(tag)); }
+
 bool ReadFormat(const uint8_t* chunk, uint32_t size, cWaveSound& sound) {
   if (size < 16 || ReadLittle(chunk, 2) != kPcmFormat) return false;
   sound.channels = static_cast<int>(ReadLittle(chunk + 2, 2));
@@ -54,9 +56,10 @@ bool ReadWaveFile(const std::string& path, cWaveSound& sound) {
 }
 
 std::vector<uint8_t> EncodeWave(const cWaveSound& sound) {
-  std::vector<uint8_t> out = {'R', 'I', 'F', 'F'};
+  std::vector<uint8_t> out;
+  AppendTag(out, "RIFF");
   AppendLittle(out, static_cast<uint32_t>(36 + sound.samples.size()), 4);
-  out.insert(out.end(), {'W', 'A', 'V', 'E', 'f', 'm', 't', ' '});
+  AppendTag(out, "WAVEfmt ");
   int blockAlign = sound.channels * sound.bits / 8;
   AppendLittle(out, 16, 4);
   AppendLittle(out, kPcmFormat, 2);
@@ -65,7 +68,7 @@ std::vector<uint8_t> EncodeWave(const cWaveSound& sound) {
   AppendLittle(out, sound.rate * blockAlign, 4);
   AppendLittle(out, blockAlign, 2);
   AppendLittle(out, sound.bits, 2);
-  out.insert(out.end(), {'d', 'a', 't', 'a'});
+  AppendTag(out, "data");
   AppendLittle(out, static_cast<uint32_t>(sound.samples.size()), 4);
   out.insert(out.end(), sound.samples.begin(), sound.samples.end());
   return out;

@@ -68,17 +68,15 @@ bool cDataFile::ReadThroughBuffer(void* target, size_t bytes) {
   return true;
 }
 
-const char* cDataFile::ReadSpan(size_t bytes) {
+const char* cDataFile::ReadSpanAfterRefill(size_t bytes) {
   if (m_bEnded || bytes > Remaining() || bytes > kStreamBuffer) return nullptr;
-  if (bytes > m_nBufEnd - m_nBufPos) {
-    // Keep what is buffered and fill the rest of the buffer behind it.
-      const size_t kept = m_nBufEnd - m_nBufPos;
-    std::memmove(m_buffer.data(), m_buffer.data() + m_nBufPos, kept);
-    const size_t wanted = static_cast<size_t>(std::min<uint64_t>(m_buffer.size() - kept, Remaining() - kept));
-    m_nBufPos = 0;
-    m_nBufEnd = kept + fread_unlocked(m_buffer.data() + kept, 1, wanted, m_pFile);
-    if (bytes > m_nBufEnd) return nullptr;
-  }
+  // Keep what is buffered and fill the rest of the buffer behind it.
+  const size_t kept = m_nBufEnd - m_nBufPos;
+  std::memmove(m_buffer.data(), m_buffer.data() + m_nBufPos, kept);
+  const size_t wanted = static_cast<size_t>(std::min<uint64_t>(m_buffer.size() - kept, Remaining() - kept));
+  m_nBufPos = 0;
+  m_nBufEnd = kept + fread_unlocked(m_buffer.data() + kept, 1, wanted, m_pFile);
+  if (bytes > m_nBufEnd) return nullptr;
   const char* span = m_buffer.data() + m_nBufPos;
   m_nBufPos += bytes;
   m_nPos += bytes;

@@ -42,7 +42,13 @@ class cDataFile {
   // The next `bytes` of the file in one piece, consumed; null, with nothing
   // consumed, when the file or the buffer cannot hold that many. A caller
   // then reads piece by piece. Valid until the next call on the file.
-  const char* ReadSpan(size_t bytes);
+  const char* ReadSpan(size_t bytes) {
+    if (m_bEnded || bytes > m_nBufEnd - m_nBufPos) return ReadSpanAfterRefill(bytes);
+    const char* span = m_buffer.data() + m_nBufPos;
+    m_nBufPos += bytes;
+    m_nPos += bytes;
+    return span;
+  }
   // Room for the next `bytes` of output, counted as written; null when the
   // buffer is smaller or a write failed, and the caller writes piecewise.
   char* WriteSpan(size_t bytes);
@@ -63,6 +69,7 @@ class cDataFile {
   explicit cDataFile(std::FILE* file, uint64_t size) : m_pFile(file), m_buffer(kStreamBuffer), m_nSize(size) {}
   bool Refill();
   bool ReadThroughBuffer(void* target, size_t bytes);
+  const char* ReadSpanAfterRefill(size_t bytes);
   void WriteThroughBuffer(const void* source, size_t bytes);
   void Flush();
   std::FILE* m_pFile;

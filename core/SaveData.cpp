@@ -104,10 +104,9 @@ void BuildRuns(cRecordLayout& layout) {
   }
 }
 
-// A block that is whole in the buffer is copied run by run from there.
-bool ReadWholeScalarBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& file) {
-  const char* source = file.ReadSpan(layout.scalarBytes);
-  if (!source) return false;
+// Copies a scalar block that lies whole in the buffer into the record, run
+// by run; gives the byte behind it.
+const char* CopyRuns(cSaveData* record, const cRecordLayout& layout, const char* source) {
   for (const cFieldRun& run : layout.runs) {
     if (!run.dropped) {
       std::memcpy(At<char>(record, run.offset), source, run.bytes);
@@ -116,13 +115,19 @@ bool ReadWholeScalarBlock(cSaveData* record, const cRecordLayout& layout, cDataF
     }
     source += run.bytes;
   }
+  return source;
+}
+
+// The usual record, written by this class at this version: its scalars and
+// the string count behind them come in one piece of the buffer.
+bool ReadExpectedScalars(cSaveData* record, const cRecordLayout& layout, cDataFile& file, int32_t& strings) {
+  const char* source = file.ReadSpan(layout.scalarBytes + sizeof strings);
+  if (!source) return false;
+  std::memcpy(&strings, CopyRuns(record, layout, source), sizeof strings);
   return true;
 }
 
-void ReadScalarBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& file) {
-  int32_t entries = 0;
-  if (!file.ReadInt32(entries)) return;
-  if (static_cast<size_t>(entries) == layout.fields.size() && ReadWholeScalarBlock(record, layout, file)) return;
+void ReadScalarEntries(cSaveData* record, const cRecordLayout& layout, int32_t entries, cDataFile& file) {
   for (int32_t i = 0; i < entries; ++i) {
     if (!EntryInRange(layout.fields, i, file)) return;
     const cSaveField& field = layout.fields[static_cast<size_t>(i)];
@@ -148,13 +153,33 @@ void WriteScalarBlock(const cSaveData* record, const cRecordLayout& layout, cDat
   }
 }
 
-void ReadStringBlock(cSaveData* record, const cRecordLayout& layout, cDataFile& file) {
-  int32_t entries = 0;
-  if (!file.ReadInt32(entries)) return;
+// The text behind a length word other than 1 (1 is the empty text).
+bool ReadStringBody(cDataFile& file, int32_t length, std::string& target) {
+  if (length < 1 || static_cast<uint64_t>(length) > file.Remaining()) {
+    file.MarkDamaged();
+    return false;
+  }
+  std::string buffer(static_cast<size_t>(length), '\0');
+  if (!file.Read(buffer.data(), buffer.size())) return false;
+  buffer.resize(std::strlen(buffer.c_str()));
+  target = std::move(buffer);
+  return true;
+}
+
+// Most stored texts are empty, so that case stays out of any call.
+inline bool ReadString(cDataFile& file, std::string& target) {
+  int32_t length = 0;
+  if (!file.ReadInt32(length)) return false;
+  if (length != 1) return ReadStringBody(file, length, target);
+  target.clear();
+  return true;
+}
+
+void ReadStringEntries(cSaveData* record, const cRecordLayout& layout, int32_t entries, cDataFile& file) {
   for (int32_t i = 0; i < entries; ++i) {
     if (!EntryInRange(layout.strings, i, file)) return;
     const cSaveString& entry = layout.strings[static_cast<size_t>(i)];
-    if (!ReadStreamString(file, entry.dropped ? g_strDropped : *At<std::string>(record, entry.offset))) return;
+    if (!ReadString(file, entry.dropped ? g_strDropped : *At<std::string>(record, entry.offset))) return;
   }
 }
 
@@ -209,14 +234,14 @@ class cLayoutBuilder {
     BuildRuns(*layout);
     return layout;
   }
+  [[gnu::noinline]] static const cRecordLayout& Remember(const cSaveData& record, const std::type_info& type,
+                                                         uint32_t version, uint32_t variant);
 };
 
-const cRecordLayout& cSaveData::Layout(uint32_t version) const {
-  const std::type_info& type = typeid(*this);
-  const uint32_t variant = LayoutVariant();
-  cLayoutMemo& memo = MemoSlot(&type, version, variant);
-  if (memo.type == &type && memo.version == version && memo.variant == variant) return *memo.layout;
-
+// A memo miss: the shared table, or a new layout. Kept out of Layout so
+// that a hit costs a handful of instructions.
+const cRecordLayout& cLayoutBuilder::Remember(const cSaveData& record, const std::type_info& type, uint32_t version,
+                                              uint32_t variant) {
   const cLayoutKey key{std::type_index(type), version, variant};
   const cRecordLayout* layout = nullptr;
   {
@@ -226,13 +251,21 @@ const cRecordLayout& cSaveData::Layout(uint32_t version) const {
   }
   if (!layout) {
     // Built outside the lock: a Register may construct other records.
-    auto built = cLayoutBuilder::Build(*this, version);
+    auto built = Build(record, version);
     std::lock_guard<std::mutex> guard(LayoutLock());
     auto [it, inserted] = Layouts().try_emplace(key, std::move(built));
     layout = it->second.get();
   }
-  memo = {&type, version, variant, layout};
+  MemoSlot(&type, version, variant) = {&type, version, variant, layout};
   return *layout;
+}
+
+const cRecordLayout& cSaveData::Layout(uint32_t version) const {
+  const std::type_info& type = typeid(*this);
+  const uint32_t variant = LayoutVariant();
+  const cLayoutMemo& memo = MemoSlot(&type, version, variant);
+  if (memo.type == &type && memo.version == version && memo.variant == variant) return *memo.layout;
+  return cLayoutBuilder::Remember(*this, type, version, variant);
 }
 
 void cSaveData::ClearLists() {
@@ -269,8 +302,15 @@ void cSaveData::AddString(std::string* text, const char* name) {
 
 void cSaveData::Load(cDataFile& file) {
   const cRecordLayout& layout = Layout(g_nFileVersion);
-  ReadScalarBlock(this, layout, file);
-  ReadStringBlock(this, layout, file);
+  int32_t entries = 0;
+  if (!file.ReadInt32(entries)) return;
+  int32_t strings = 0;
+  if (static_cast<size_t>(entries) != layout.fields.size() || !ReadExpectedScalars(this, layout, file, strings)) {
+    // An older or damaged block goes entry by entry.
+    ReadScalarEntries(this, layout, entries, file);
+    if (!file.ReadInt32(strings)) return;
+  }
+  ReadStringEntries(this, layout, strings, file);
 }
 
 void cSaveData::Save(cDataFile& file) {
@@ -283,23 +323,7 @@ void cSaveData::Save(cDataFile& file) {
   }
 }
 
-bool ReadStreamString(cDataFile& file, std::string& target) {
-  int32_t length = 0;
-  if (!file.ReadInt32(length)) return false;
-  if (length == 1) {
-    target.clear();
-    return true;
-  }
-  if (length < 1 || static_cast<uint64_t>(length) > file.Remaining()) {
-    file.MarkDamaged();
-    return false;
-  }
-  std::string buffer(static_cast<size_t>(length), '\0');
-  if (!file.Read(buffer.data(), buffer.size())) return false;
-  buffer.resize(std::strlen(buffer.c_str()));
-  target = std::move(buffer);
-  return true;
-}
+bool ReadStreamString(cDataFile& file, std::string& target) { return ReadString(file, target); }
 
 void WriteStreamString(cDataFile& file, std::string& text) {
   CutForBuffer(text);
@@ -401,21 +425,6 @@ bool IsOlderFile(const std::string& name, uint32_t version) {
   if (!file) return false;
   CloseData(file);
   return g_nFileVersion < version;
-}
-
-int32_t ReadCount(cDataFile& file, uint64_t minBytesPerElement) {
-  int32_t count = 0;
-  if (!file.ReadInt32(count)) return 0;
-  if (count < 0) {
-    file.MarkDamaged();
-    return 0;
-  }
-  // A count is below 2^31 and an element a few bytes: the product can't wrap.
-  if (static_cast<uint64_t>(count) * std::max<uint64_t>(minBytesPerElement, 1) > file.Remaining()) {
-    file.MarkDamaged();
-    return 0;
-  }
-  return count;
 }
 
 }  // namespace velmora

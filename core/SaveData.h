@@ -166,7 +166,17 @@ void WriteStreamString(cDataFile& file, std::string& text);
 // Reading a count that sizes a vector: a count beyond what the rest of the
 // file could hold (each element takes at least `minBytesPerElement`) is
 // damage: the stream ends there and the count reads as 0.
-int32_t ReadCount(cDataFile& file, uint64_t minBytesPerElement);
+// Inline: every nested vector starts with one.
+inline int32_t ReadCount(cDataFile& file, uint64_t minBytesPerElement) {
+  int32_t count = 0;
+  if (!file.ReadInt32(count)) return 0;
+  // A count is below 2^31 and an element a few bytes: the product can't wrap.
+  if (count < 0 || static_cast<uint64_t>(count) * (minBytesPerElement ? minBytesPerElement : 1) > file.Remaining()) {
+    file.MarkDamaged();
+    return 0;
+  }
+  return count;
+}
 
 template <class T>
 void LoadVector(std::vector<T>& vec, cDataFile& file) {

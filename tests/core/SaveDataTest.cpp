@@ -265,6 +265,31 @@ TEST_F(SaveDataTest, MoreEntriesThanTheClassKnowsRunTheBadIndexStop) {
   EXPECT_EQ(0, holder.SaveFile("out.dat"));
 }
 
+TEST_F(SaveDataTest, AWholeScalarBlockWithAMissingOrExcessStringCount) {
+  // The file ends inside the string count: the scalars are kept whole and
+  // the strings stay as they were.
+  std::vector<uint8_t> bytes = FileOf(950, SampleBytes(950, 31, "name", 5));
+  const size_t scalarsEnd = 4 + 4 + 4 + 2 + 1 + 8 + 3 * 4 + 4;
+  std::vector<uint8_t> cut(bytes.begin(), bytes.begin() + scalarsEnd + 2);
+  WriteBytes("cut.dat", cut);
+  cSampleRecord record;
+  record.m_strName = "before";
+  EXPECT_EQ(1, record.LoadFile("cut.dat"));
+  EXPECT_EQ(31, record.m_nLife);
+  EXPECT_EQ(5, record.m_nAdded);
+  EXPECT_EQ("before", record.m_strName);
+
+  // A string count beyond the class's strings: the known ones are read,
+  // then the bad index stops saving.
+  bytes[scalarsEnd] = 3;
+  WriteBytes("excess.dat", bytes);
+  const int closesBefore = CloseRequestCount();
+  EXPECT_EQ(1, record.LoadFile("excess.dat"));
+  EXPECT_EQ("name", record.m_strName);
+  EXPECT_EQ(1, g_bNoSave);
+  EXPECT_EQ(closesBefore + 1, CloseRequestCount());
+}
+
 TEST_F(SaveDataTest, NoSaveStopsEverySaveAndLeavesTheFile) {
   cSampleRecord record;
   ASSERT_EQ(1, record.SaveFile("keep.dat"));

@@ -67,8 +67,8 @@ void SetChara(cStage& stage, int index, cEdChara chara) {
 }
 
 int CursorModeForTool(int tool) {
-  static constexpr std::array<int, 5> kModes = {0, 1, 2, 3, 3};
-  return tool >= 0 && tool < static_cast<int>(kModes.size()) ? kModes[static_cast<size_t>(tool)] : 0;
+  static constexpr std::array<int, 5> kModes = {kCursorPen, kCursorLine, kCursorRect, kCursorCell, kCursorCell};
+  return tool >= 0 && tool < static_cast<int>(kModes.size()) ? kModes[static_cast<size_t>(tool)] : kCursorPen;
 }
 
 void EmptyPaletteClipboard() {

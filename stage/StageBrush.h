@@ -17,6 +17,10 @@ void SwitchLayer(int layer);
 // Space: the next layer, from items back to blocks.
 void NextLayer();
 
+// The frames the stage view shows around the cursor, as `m_iCursorMode`
+// holds them; the right-button range has its own.
+enum eCursorMode : int32_t { kCursorPen = 0, kCursorLine = 1, kCursorRect = 2, kCursorCell = 3, kCursorRange = 5 };
+
 // The frame the stage shows for a tool: line and rectangle their own,
 // fill and parameter tool a single cell.
 int CursorModeForTool(int tool);

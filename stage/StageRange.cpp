@@ -14,7 +14,6 @@
 namespace velmora {
 namespace {
 
-constexpr int kRangeCursorMode = 5;
 constexpr int kKeySpace = 32;
 // Byte 5 of a character's inherit flags: its facing comes from the palette.
 constexpr size_t kFacingInheritGroup = 5;
@@ -119,14 +118,14 @@ bool RangeMouse(const cStageInput& in) {
   if (in.action == eStageAction::Down) {
     edit.m_iRangeX = in.x;
     edit.m_iRangeY = in.y;
-    edit.m_iCursorMode = kRangeCursorMode;
+    edit.m_iCursorMode = kCursorRange;
     edit.m_iPltIndex = -1;
     edit.m_bDrag = 1;
     edit.m_iBrushW = 1;
     edit.m_iBrushH = 1;
     return true;
   }
-  if (edit.m_iCursorMode != kRangeCursorMode || !edit.m_bDrag) return false;
+  if (edit.m_iCursorMode != kCursorRange || !edit.m_bDrag) return false;
   if (in.action == eStageAction::Move) {
     RangeRect(in.x, in.y);
     return true;
@@ -143,7 +142,7 @@ bool StageKey(int key, bool shift, int cursorX, int cursorY) {
     return true;
   }
   cStageEdit& edit = StageEdit();
-  if (edit.m_iCursorMode != kRangeCursorMode) return false;
+  if (edit.m_iCursorMode != kCursorRange) return false;
   const auto found = std::find_if(kRangeKeys.begin(), kRangeKeys.end(),
                                   [key](const cRangeKey& k) { return key == k.upperCode || key == k.upperCode + 32; });
   if (found == kRangeKeys.end()) return false;

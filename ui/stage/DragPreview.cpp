@@ -5,15 +5,14 @@
 #include <vector>
 
 #include "project/Database.h"
+#include "stage/StageBrush.h"
 #include "stage/StageTools.h"
+#include "ui/stage/StageViewRules.h"
 #include "ui/stageview/ObjectDraw.h"
 
 namespace velmora {
 namespace {
 
-constexpr int kModeLine = 1;
-constexpr int kModeRect = 2;
-constexpr cColourRef kFrameColour = 0xFF0080;
 constexpr int kFramePenWidth = 2;
 
 // One cell that the drag will write, with the brush record it takes.
@@ -69,8 +68,8 @@ void DrawBrushRecord(const cStageEdit& edit, int layer, int index, cSurface& out
 
 void DrawDragPreview(const cStage& stage, const cStageEdit& edit, cCellPos cursor, bool allLayers, cSurface& out,
                      int scrollX, int scrollY) {
-  if (!edit.m_bDrag || (edit.m_iCursorMode != kModeLine && edit.m_iCursorMode != kModeRect)) return;
-  const bool line = edit.m_iCursorMode == kModeLine;
+  if (!edit.m_bDrag || (edit.m_iCursorMode != kCursorLine && edit.m_iCursorMode != kCursorRect)) return;
+  const bool line = edit.m_iCursorMode == kCursorLine;
   const std::vector<cPreviewCell> cells =
       line ? LinePreview(edit, cursor) : RectPreview(edit, cursor, out, scrollX, scrollY);
   const int firstLayer = allLayers ? 0 : edit.m_iLayer;
@@ -87,7 +86,7 @@ void DrawDragPreview(const cStage& stage, const cStageEdit& edit, cCellPos curso
     if (line) framed.push_back({x, y});
   }
   if (framed.empty()) return;
-  out.SetPen(kPenSolid, kFramePenWidth, kFrameColour);
+  out.SetPen(kPenSolid, kFramePenWidth, kCursorColour);
   for (const cCellPos& corner : framed) out.Box(corner.x, corner.y, kCellDots, kCellDots);
   out.FreePen();
 }

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "core/SystemText.h"
+#include "stage/StageBrush.h"
 
 namespace velmora {
 namespace {
@@ -53,11 +54,7 @@ cBarRange VertBarRange(int stageHeight, int clientHeight) { return {stageHeight 
 
 namespace {
 
-constexpr cColourRef kCursorColour = 0xFF0080;
 constexpr cColourRef kRangeColour = 0x8000FF;
-constexpr int kModePen = 0;
-constexpr int kModeRect = 2;
-constexpr int kModeRange = 5;
 
 cCellFrame Spanning(int fromX, int fromY, cCellPos to, cColourRef colour) {
   return {std::min(fromX, to.x), std::min(fromY, to.y), std::abs(to.x - fromX) + 1, std::abs(to.y - fromY) + 1,
@@ -68,11 +65,11 @@ cCellFrame Spanning(int fromX, int fromY, cCellPos to, cColourRef colour) {
 
 cCellFrame CursorFrame(const cStageEdit& edit, cCellPos cursor) {
   switch (edit.m_iCursorMode) {
-    case kModePen: return {cursor.x, cursor.y, edit.m_iBrushW, edit.m_iBrushH, kCursorColour};
-    case kModeRect:
+    case kCursorPen: return {cursor.x, cursor.y, edit.m_iBrushW, edit.m_iBrushH, kCursorColour};
+    case kCursorRect:
       if (edit.m_bDrag) return Spanning(edit.m_iRectX, edit.m_iRectY, cursor, kCursorColour);
       break;
-    case kModeRange:
+    case kCursorRange:
       if (edit.m_bDrag) return Spanning(edit.m_iRangeX, edit.m_iRangeY, cursor, kRangeColour);
       return {cursor.x, cursor.y, 0, 0, kRangeColour};
     default: break;

@@ -12,6 +12,9 @@ namespace velmora {
 // wheel and the player's place move the view, and what the scroll bars
 // cover. No widgets here, so each rule can be checked on its own.
 
+// The cursor frame, and the frames of a line drag's cells.
+inline constexpr cColourRef kCursorColour = 0xFF0080;
+
 struct cViewFrame {
   int clientWidth = 0;   // dots
   int clientHeight = 0;

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <vector>
 
+#include "platform/HeapPolicy.h"
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
 #include "stage/StageFill.h"
@@ -63,6 +64,8 @@ void OccupyOnePercent() {
 }  // namespace
 
 int main() {
+  // The process is set up as the editor sets itself up.
+  KeepLayersInHeap();
   std::printf("BENCH stage_bytes_per_cell %.1f bytes target <= 580\n", SnapshotBytesPerCell());
 
   SetUpStage(3);

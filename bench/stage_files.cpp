@@ -10,6 +10,7 @@
 
 #include "core/SaveData.h"
 #include "platform/FileSystem.h"
+#include "platform/HeapPolicy.h"
 #include "stage/Stage.h"
 
 namespace {
@@ -88,6 +89,8 @@ int main() {
   const std::string host = "/tmp/velmora_bench_stage.stg4_950";
   const std::string plain = "/tmp/velmora_bench_stage.plain";
   if (::chdir("/tmp") != 0) return 1;
+  // The process is set up as the editor sets itself up.
+  KeepLayersInHeap();
   cStage& stage = EditStage();
   FillStage(stage);
 

@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <type_traits>
 #include <typeindex>
 
 #include "platform/TextCodec.h"
@@ -32,11 +33,9 @@ thread_local const cSaveData* t_buildingRecord = nullptr;
 struct cLayoutKey {
   std::type_index type;
   uint32_t version;
-  uint32_t variant;
   bool operator<(const cLayoutKey& other) const {
     if (type != other.type) return type < other.type;
-    if (version != other.version) return version < other.version;
-    return variant < other.variant;
+    return version < other.version;
   }
 };
 
@@ -59,15 +58,14 @@ std::map<cLayoutKey, std::unique_ptr<cRecordLayout>>& Layouts() {
 struct cLayoutMemo {
   const std::type_info* type = nullptr;
   uint32_t version = 0;
-  uint32_t variant = 0;
   const cRecordLayout* layout = nullptr;
 };
 constexpr size_t kMemoSlots = 64;
 thread_local std::array<cLayoutMemo, kMemoSlots> t_memo;
 
-cLayoutMemo& MemoSlot(const std::type_info* type, uint32_t version, uint32_t variant) {
+cLayoutMemo& MemoSlot(const std::type_info* type, uint32_t version) {
   const auto bits = reinterpret_cast<uintptr_t>(type);
-  return t_memo[((bits >> 3) ^ (bits >> 9) ^ (version * 7u) ^ variant) % kMemoSlots];
+  return t_memo[((bits >> 3) ^ (bits >> 9) ^ (version * 7u)) % kMemoSlots];
 }
 
 template <class T>
@@ -104,12 +102,33 @@ void BuildRuns(cRecordLayout& layout) {
   }
 }
 
+// A run is a few bytes long, and a call into the C library for each would
+// cost more than the copy: short runs move as two fixed-width pieces that
+// may overlap in the middle.
+inline void CopyRun(char* target, const char* source, size_t bytes) {
+  const auto pair = [&](auto width) {
+    std::memcpy(target, source, width);
+    std::memcpy(target + bytes - width, source + bytes - width, width);
+  };
+  if (bytes > 16) {
+    std::memcpy(target, source, bytes);
+  } else if (bytes >= 8) {
+    pair(std::integral_constant<size_t, 8>());
+  } else if (bytes >= 4) {
+    pair(std::integral_constant<size_t, 4>());
+  } else if (bytes >= 2) {
+    pair(std::integral_constant<size_t, 2>());
+  } else if (bytes == 1) {
+    *target = *source;
+  }
+}
+
 // Copies a scalar block that lies whole in the buffer into the record, run
 // by run; gives the byte behind it.
 const char* CopyRuns(cSaveData* record, const cRecordLayout& layout, const char* source) {
   for (const cFieldRun& run : layout.runs) {
     if (!run.dropped) {
-      std::memcpy(At<char>(record, run.offset), source, run.bytes);
+      CopyRun(At<char>(record, run.offset), source, run.bytes);
     } else if (run.bytes <= sizeof g_nDropped) {
       std::memcpy(&g_nDropped, source, run.bytes);
     }
@@ -148,7 +167,7 @@ void WriteScalarBlock(const cSaveData* record, const cRecordLayout& layout, cDat
       file.Write(source, run.bytes);
       continue;
     }
-    std::memcpy(target, source, run.bytes);
+    CopyRun(target, source, run.bytes);
     target += run.bytes;
   }
 }
@@ -235,14 +254,13 @@ class cLayoutBuilder {
     return layout;
   }
   [[gnu::noinline]] static const cRecordLayout& Remember(const cSaveData& record, const std::type_info& type,
-                                                         uint32_t version, uint32_t variant);
+                                                         uint32_t version);
 };
 
 // A memo miss: the shared table, or a new layout. Kept out of Layout so
 // that a hit costs a handful of instructions.
-const cRecordLayout& cLayoutBuilder::Remember(const cSaveData& record, const std::type_info& type, uint32_t version,
-                                              uint32_t variant) {
-  const cLayoutKey key{std::type_index(type), version, variant};
+const cRecordLayout& cLayoutBuilder::Remember(const cSaveData& record, const std::type_info& type, uint32_t version) {
+  const cLayoutKey key{std::type_index(type), version};
   const cRecordLayout* layout = nullptr;
   {
     std::lock_guard<std::mutex> guard(LayoutLock());
@@ -256,16 +274,15 @@ const cRecordLayout& cLayoutBuilder::Remember(const cSaveData& record, const std
     auto [it, inserted] = Layouts().try_emplace(key, std::move(built));
     layout = it->second.get();
   }
-  MemoSlot(&type, version, variant) = {&type, version, variant, layout};
+  MemoSlot(&type, version) = {&type, version, layout};
   return *layout;
 }
 
 const cRecordLayout& cSaveData::Layout(uint32_t version) const {
   const std::type_info& type = typeid(*this);
-  const uint32_t variant = LayoutVariant();
-  const cLayoutMemo& memo = MemoSlot(&type, version, variant);
-  if (memo.type == &type && memo.version == version && memo.variant == variant) return *memo.layout;
-  return cLayoutBuilder::Remember(*this, type, version, variant);
+  const cLayoutMemo& memo = MemoSlot(&type, version);
+  if (memo.type == &type && memo.version == version) return *memo.layout;
+  return cLayoutBuilder::Remember(*this, type, version);
 }
 
 void cSaveData::ClearLists() {

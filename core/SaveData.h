@@ -94,7 +94,7 @@ struct cRecordLayout {
 
 // Base of every stored record. A derived class states its stored members in
 // file order in Register(version), under version gates. Register must depend
-// only on the version (and LayoutVariant), never on the values in the
+// only on the version, never on the values in the
 // record, since its result is built once and shared.
 class cSaveData {
  public:
@@ -119,8 +119,6 @@ class cSaveData {
 
  protected:
   virtual void Register(uint32_t /*version*/) {}
-  // A class whose lists differ between instances says so here.
-  virtual uint32_t LayoutVariant() const { return 0; }
 
   void ClearLists();
   template <class T>

@@ -1,5 +1,8 @@
 // The two reference checks of a command: against the database lists
 // (CheckCmd) and against the palettes (CheckCmdRefs).
+#include <array>
+#include <iterator>
+
 #include "objects/Cmd.h"
 #include "objects/CmdTable.h"
 #include "objects/Flow.h"
@@ -21,7 +24,7 @@ struct cParamRef {
 constexpr int kAnyP0 = -1;
 constexpr int kGraphicOwnBitmap = 4;
 
-const cParamRef kParamRefs[] = {
+constexpr cParamRef kParamRefs[] = {
     {kCmdGraphic, kGraphicOwnBitmap, 1, eDbList::BmpCharaExc, 1},
     {kCmdAnimeSet, kAnyP0, 0, eDbList::AnimeSet, 0},
     {kCmdAnime, kAnyP0, 0, eDbList::Anime, 1},
@@ -35,14 +38,40 @@ const cParamRef kParamRefs[] = {
 
 bool Beyond(int value, eDbList list) { return value >= RefSizes().DbListSize(list); }
 
+// A row reference that falls back to row 0. Row 0 and below can't lie
+// beyond a list, so most commands, which refer to none, ask nothing.
+void ClearBeyond(int16_t& row, eDbList list) {
+  if (row > 0 && Beyond(row, list)) row = 0;
+}
+
+constexpr bool OneRowPerKind() {
+  for (size_t i = 0; i < std::size(kParamRefs); ++i) {
+    for (size_t j = 0; j < i; ++j) {
+      if (kParamRefs[i].kind == kParamRefs[j].kind) return false;
+    }
+  }
+  return true;
+}
+static_assert(OneRowPerKind(), "a kind with two parameter rows needs a list of rows, not one");
+
+// The row of kParamRefs for each kind, -1 for a kind whose parameters name
+// no database row: commands by the million pass through here on a load.
+constexpr size_t kRefKinds = 256;
+constexpr std::array<int8_t, kRefKinds> kRefRowOfKind = [] {
+  std::array<int8_t, kRefKinds> rows{};
+  rows.fill(-1);
+  for (size_t i = 0; i < std::size(kParamRefs); ++i) rows[static_cast<size_t>(kParamRefs[i].kind)] = static_cast<int8_t>(i);
+  return rows;
+}();
+
 // `kind` is the command's kind in CmdTable numbering.
 void CheckParamRefs(cEdCmd& c, int kind) {
-  for (const cParamRef& ref : kParamRefs) {
-    if (ref.kind != kind || static_cast<size_t>(ref.index) >= c.m_vParam.size()) continue;
-    if (ref.whenP0 != kAnyP0 && c.m_vParam[0] != ref.whenP0) continue;
-    int32_t& value = c.m_vParam[static_cast<size_t>(ref.index)];
-    if (Beyond(value, ref.list)) value = ref.repaired;
-  }
+  if (kind < 0 || static_cast<size_t>(kind) >= kRefKinds || kRefRowOfKind[static_cast<size_t>(kind)] < 0) return;
+  const cParamRef& ref = kParamRefs[kRefRowOfKind[static_cast<size_t>(kind)]];
+  if (static_cast<size_t>(ref.index) >= c.m_vParam.size()) return;
+  if (ref.whenP0 != kAnyP0 && c.m_vParam[0] != ref.whenP0) return;
+  int32_t& value = c.m_vParam[static_cast<size_t>(ref.index)];
+  if (Beyond(value, ref.list)) value = ref.repaired;
 }
 
 void CheckSword(cEdCmd& c, int kind) {
@@ -104,9 +133,10 @@ void CheckCharaCmdRefs(cEdCmd& c) {
 }  // namespace
 
 void cEdCmd::CheckCmd() {
-  if (Beyond(m_nAnime, eDbList::Anime)) m_nAnime = 0;
-  if (Beyond(m_nSound, eDbList::Sound)) m_nSound = 0;
-  m_vParam.resize(static_cast<size_t>(CmdParamCount(m_bItemCmd != 0, m_nKind)), 0);
+  ClearBeyond(m_nAnime, eDbList::Anime);
+  ClearBeyond(m_nSound, eDbList::Sound);
+  const size_t params = static_cast<size_t>(CmdParamCount(m_bItemCmd != 0, m_nKind));
+  if (m_vParam.size() != params) m_vParam.resize(params, 0);
   const int kind = TableKind();
   CheckSword(*this, kind);
   CheckParamRefs(*this, kind);

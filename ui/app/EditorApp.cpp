@@ -22,6 +22,7 @@
 #include "core/TimedBackup.h"
 #include "objects/GValInfo.h"
 #include "platform/Clock.h"
+#include "platform/HeapPolicy.h"
 #include "platform/InstanceLock.h"
 #include "platform/MessageChannel.h"
 #include "platform/Screen.h"
@@ -109,6 +110,7 @@ int cEditorApp::Run() {
 
 // From the settled working directory to the first painted stage window.
 bool cEditorApp::Start() {
+  KeepLayersInHeap();
   SetDebugLog("EC_Editor.txt", false);
   if (!OpenReportLog("Report_Editor.txt")) return false;
   if (QScreen* screen = QGuiApplication::primaryScreen()) {

@@ -146,7 +146,10 @@ bool ReadExpectedScalars(cSaveData* record, const cRecordLayout& layout, cDataFi
   return true;
 }
 
-void ReadScalarEntries(cSaveData* record, const cRecordLayout& layout, int32_t entries, cDataFile& file) {
+// Out of line, like the text body below: kept inside Load, these rare cases
+// would cost every record of a stage the registers they need.
+[[gnu::noinline]] void ReadScalarEntries(cSaveData* record, const cRecordLayout& layout, int32_t entries,
+                                         cDataFile& file) {
   for (int32_t i = 0; i < entries; ++i) {
     if (!EntryInRange(layout.fields, i, file)) return;
     const cSaveField& field = layout.fields[static_cast<size_t>(i)];
@@ -173,7 +176,7 @@ void WriteScalarBlock(const cSaveData* record, const cRecordLayout& layout, cDat
 }
 
 // The text behind a length word other than 1 (1 is the empty text).
-bool ReadStringBody(cDataFile& file, int32_t length, std::string& target) {
+[[gnu::noinline]] bool ReadStringBody(cDataFile& file, int32_t length, std::string& target) {
   if (length < 1 || static_cast<uint64_t>(length) > file.Remaining()) {
     file.MarkDamaged();
     return false;

@@ -5,7 +5,7 @@ namespace velmora {
 
 inline constexpr int kBlockInheritGroups = 11;
 
-class cEdBlock : public cEdEntry {
+class cEdBlock final : public cEdEntry {
  public:
   int16_t m_nGraphicNo = 0;  // 0 marks an empty cell
   uint8_t m_nGraphicKind = 0;

@@ -6,7 +6,7 @@ namespace velmora {
 
 inline constexpr int kCharaInheritGroups = 37;
 
-class cEdChara : public cEdEntry {
+class cEdChara final : public cEdEntry {
  public:
   uint8_t m_bFaceRight = 0;
   uint8_t m_nCloneCount = 0;

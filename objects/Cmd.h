@@ -15,7 +15,7 @@ class cEdFlow;
 
 // One command of a flow or of an item. Its numbers stand in m_vParam, the
 // larger parameter sets in the record its kind owns.
-class cEdCmd : public cSaveData {
+class cEdCmd final : public cSaveData {
  public:
   uint8_t m_bItemCmd = 0;  // numbered by ItemCmdTable, in an item's list
   uint8_t m_nKind = 0;

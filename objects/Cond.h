@@ -8,7 +8,7 @@ namespace velmora {
 // One condition. One layout serves every kind; a kind reads only some of
 // the fields, and the distance condition lends several of them other
 // meanings. A new condition is all zero.
-class cEdCond : public cSaveData {
+class cEdCond final : public cSaveData {
  public:
   uint8_t m_nKind = 0;
   int32_t m_nValue = 0;

@@ -7,7 +7,7 @@ namespace velmora {
 
 // A list of conditions that can be switched off as a whole; the command
 // フローの操作 holds one.
-class cCondList : public cSaveData {
+class cCondList final : public cSaveData {
  public:
   uint8_t m_bEnabled = 0;
   uint8_t m_nJudge = 0;

@@ -22,12 +22,12 @@ void cEdEntry::SavePosition(cDataFile& file) const {
 }
 
 void cEdEntry::LoadInheritAndConds(cDataFile& file) {
-  LoadPlainVector(m_bbInherit, file);
+  m_bbInherit.Load(file);
   LoadVector(m_vCond, file);
 }
 
 void cEdEntry::SaveInheritAndConds(cDataFile& file) {
-  SavePlainVector(m_bbInherit, file);
+  m_bbInherit.Save(file);
   SaveVector(m_vCond, file);
 }
 
@@ -48,13 +48,6 @@ void cEdEntry::CheckInheritRef(int listSize) {
     m_nInheritSrc = 0;
     m_nInheritNo = 0;
   }
-}
-
-void InsertFlag(std::vector<uint8_t>& flags, size_t size, size_t index, uint8_t value) {
-  flags.resize(size, 0);
-  if (index >= size) return;
-  flags.insert(flags.begin() + static_cast<std::ptrdiff_t>(index), value);
-  flags.resize(size);
 }
 
 }  // namespace velmora

@@ -6,6 +6,7 @@
 
 #include "core/SaveData.h"
 #include "objects/Cond.h"
+#include "objects/InheritFlags.h"
 #include "objects/PaletteTables.h"
 
 namespace velmora {
@@ -25,7 +26,7 @@ class cEdEntry : public cSaveData {
   std::string m_strName;
   int16_t m_nPosX = 0;
   int16_t m_nPosY = 0;
-  std::vector<uint8_t> m_bbInherit;
+  cInheritFlags m_bbInherit;
   std::vector<cEdCond> m_vCond;
 
   // Inheritance turned off when the source entry is gone (number beyond
@@ -54,6 +55,12 @@ void RenumberShotGraphic(T& entry) {
 // Resizes a flag vector to `size` and inserts `value` at `index`, moving
 // the later bytes up and dropping the last: what an old file needs when a
 // group was added in the middle.
-void InsertFlag(std::vector<uint8_t>& flags, size_t size, size_t index, uint8_t value);
+template <class Flags>
+void InsertFlag(Flags& flags, size_t size, size_t index, uint8_t value) {
+  flags.resize(size, 0);
+  if (index >= size) return;
+  std::copy_backward(flags.begin() + index, flags.end() - 1, flags.end());
+  flags[index] = value;
+}
 
 }  // namespace velmora

@@ -16,7 +16,7 @@ inline constexpr int kMaxFlows = 999;
 inline constexpr int kMaxFlowMemoChars = 200;
 
 // One flow of a character: when it runs and what it does.
-class cEdFlow : public cSaveData {
+class cEdFlow final : public cSaveData {
  public:
   std::string m_strMemo;
   uint8_t m_nFlowId = 0;

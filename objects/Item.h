@@ -7,7 +7,7 @@ namespace velmora {
 inline constexpr int kItemInheritGroups = 13;
 inline constexpr int kMaxItemCmds = 999;
 
-class cEdItem : public cEdEntry {
+class cEdItem final : public cEdEntry {
  public:
   int16_t m_nOffsetX = 0;
   int16_t m_nOffsetY = 0;

@@ -9,7 +9,7 @@ namespace velmora {
 
 // One key condition of a flow: the state of every key and the time the
 // input may take.
-class cEdKeyCond : public cSaveData {
+class cEdKeyCond final : public cSaveData {
  public:
   uint8_t m_bFrontBack = 0;
   int16_t m_nPressMin = 1;

@@ -7,7 +7,7 @@ namespace velmora {
 
 // The parameters of the movement commands and of ワープ. One record serves
 // them all; each command's dialog shows the fields it uses.
-class cEdMove : public cSaveData {
+class cEdMove final : public cSaveData {
  public:
   uint8_t m_nAimType = 0;
   uint8_t m_nDir = 0;

@@ -8,7 +8,7 @@ namespace velmora {
 
 // The parameters of ショット, ソード and the three summon commands. One
 // record serves them all; each command's dialog shows the fields it uses.
-class cEdShot : public cSaveData {
+class cEdShot final : public cSaveData {
  public:
   uint8_t m_nCount = 0;
   uint8_t m_nFormation = 0;

@@ -7,7 +7,7 @@ namespace velmora {
 
 // The name of one variable, common or of a stage. Element 0 of a name list
 // is never shown; element n names variable n.
-class cStageVar : public cSaveData {
+class cStageVar final : public cSaveData {
  public:
   std::string m_strName;
 

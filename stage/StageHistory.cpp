@@ -185,7 +185,7 @@ void StepBack(cStack from, cStack to) {
 template <class T>
 void AllocSlots(std::vector<std::vector<T>>& slots, int level, size_t cells) {
   T blank;
-  std::vector<uint8_t>().swap(blank.m_bbInherit);
+  blank.m_bbInherit.clear();
   VecAt(slots, level).assign(cells, blank);
 }
 

@@ -8,7 +8,7 @@ namespace velmora {
 
 // How far beyond the screen's edges a kind of object may go before it
 // vanishes by itself.
-class cAutoVanish : public cSaveData {
+class cAutoVanish final : public cSaveData {
  public:
   int32_t m_bLeft = 0;
   int32_t m_bRight = 0;
@@ -27,7 +27,7 @@ class cAutoVanish : public cSaveData {
 };
 
 // One background layer of a stage.
-class cStageBack : public cSaveData {
+class cStageBack final : public cSaveData {
  public:
   int32_t m_bFromStart = 1;
   int32_t m_bUseColor = 0;

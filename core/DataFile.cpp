@@ -68,7 +68,7 @@ bool cDataFile::ReadThroughBuffer(void* target, size_t bytes) {
   return true;
 }
 
-const char* cDataFile::ReadSpanAfterRefill(size_t bytes) {
+const char* cDataFile::PeekAfterRefill(size_t bytes) {
   if (m_bEnded || bytes > Remaining() || bytes > kStreamBuffer) return nullptr;
   // Keep what is buffered and fill the rest of the buffer behind it.
   const size_t kept = m_nBufEnd - m_nBufPos;
@@ -77,10 +77,7 @@ const char* cDataFile::ReadSpanAfterRefill(size_t bytes) {
   m_nBufPos = 0;
   m_nBufEnd = kept + fread_unlocked(m_buffer.data() + kept, 1, wanted, m_pFile);
   if (bytes > m_nBufEnd) return nullptr;
-  const char* span = m_buffer.data() + m_nBufPos;
-  m_nBufPos += bytes;
-  m_nPos += bytes;
-  return span;
+  return m_buffer.data();
 }
 
 char* cDataFile::WriteSpan(size_t bytes) {

@@ -39,14 +39,22 @@ class cDataFile {
   }
   void WriteInt32(int32_t value) { Write(&value, sizeof value); }
 
-  // The next `bytes` of the file in one piece, consumed; null, with nothing
-  // consumed, when the file or the buffer cannot hold that many. A caller
-  // then reads piece by piece. Valid until the next call on the file.
-  const char* ReadSpan(size_t bytes) {
-    if (m_bEnded || bytes > m_nBufEnd - m_nBufPos) return ReadSpanAfterRefill(bytes);
-    const char* span = m_buffer.data() + m_nBufPos;
+  // The next `bytes` of the file in one piece, not consumed; null when the
+  // file or the buffer cannot hold that many, and a caller then reads piece
+  // by piece. Valid until the next call on the file other than Consume.
+  const char* Peek(size_t bytes) {
+    if (m_bEnded || bytes > m_nBufEnd - m_nBufPos) return PeekAfterRefill(bytes);
+    return m_buffer.data() + m_nBufPos;
+  }
+  // Consumes bytes that Peek has just shown.
+  void Consume(size_t bytes) {
     m_nBufPos += bytes;
     m_nPos += bytes;
+  }
+  // Peek and Consume in one.
+  const char* ReadSpan(size_t bytes) {
+    const char* span = Peek(bytes);
+    if (span) Consume(bytes);
     return span;
   }
   // Room for the next `bytes` of output, counted as written; null when the
@@ -69,7 +77,7 @@ class cDataFile {
   explicit cDataFile(std::FILE* file, uint64_t size) : m_pFile(file), m_buffer(kStreamBuffer), m_nSize(size) {}
   bool Refill();
   bool ReadThroughBuffer(void* target, size_t bytes);
-  const char* ReadSpanAfterRefill(size_t bytes);
+  const char* PeekAfterRefill(size_t bytes);
   void WriteThroughBuffer(const void* source, size_t bytes);
   void Flush();
   std::FILE* m_pFile;

@@ -137,12 +137,18 @@ const char* CopyRuns(cSaveData* record, const cRecordLayout& layout, const char*
   return source;
 }
 
-// The usual record, written by this class at this version: its scalars and
-// the string count behind them come in one piece of the buffer.
-bool ReadExpectedScalars(cSaveData* record, const cRecordLayout& layout, cDataFile& file, int32_t& strings) {
-  const char* source = file.ReadSpan(layout.scalarBytes + sizeof strings);
-  if (!source) return false;
-  std::memcpy(&strings, CopyRuns(record, layout, source), sizeof strings);
+// The usual record, written by this class at this version: its entry
+// count, its scalars and the string count behind them come in one piece of
+// the buffer. Anything else is left unread.
+bool ReadUsualHead(cSaveData* record, const cRecordLayout& layout, cDataFile& file, int32_t& strings) {
+  int32_t entries = 0;
+  const size_t bytes = sizeof entries + layout.scalarBytes + sizeof strings;
+  const char* head = file.Peek(bytes);
+  if (!head) return false;
+  std::memcpy(&entries, head, sizeof entries);
+  if (static_cast<size_t>(entries) != layout.fields.size()) return false;
+  std::memcpy(&strings, CopyRuns(record, layout, head + sizeof entries), sizeof strings);
+  file.Consume(bytes);
   return true;
 }
 
@@ -322,11 +328,11 @@ void cSaveData::AddString(std::string* text, const char* name) {
 
 void cSaveData::Load(cDataFile& file) {
   const cRecordLayout& layout = Layout(g_nFileVersion);
-  int32_t entries = 0;
-  if (!file.ReadInt32(entries)) return;
   int32_t strings = 0;
-  if (static_cast<size_t>(entries) != layout.fields.size() || !ReadExpectedScalars(this, layout, file, strings)) {
-    // An older or damaged block goes entry by entry.
+  if (!ReadUsualHead(this, layout, file, strings)) {
+    // An older, cut or damaged block goes entry by entry.
+    int32_t entries = 0;
+    if (!file.ReadInt32(entries)) return;
     ReadScalarEntries(this, layout, entries, file);
     if (!file.ReadInt32(strings)) return;
   }

@@ -1,5 +1,7 @@
 #include "objects/Cmd.h"
 
+#include <cstring>
+
 #include "objects/CmdTable.h"
 #include "objects/Flow.h"
 #include "objects/PlainVector.h"
@@ -74,11 +76,32 @@ void cEdCmd::SetUpNew(int kind, bool itemCmd) {
   }
 }
 
+namespace {
+
+// Most commands own none of their three records: the presence words are
+// then read as one piece. False, with nothing read, otherwise.
+bool LoadNoRecords(cEdCmd& cmd, cDataFile& file) {
+  const size_t words = g_nFileVersion >= kCondListStored ? 3 : 2;
+  const size_t bytes = words * sizeof(int32_t);
+  const char* presence = file.Peek(bytes);
+  static constexpr char kAbsent[3 * sizeof(int32_t)] = {};
+  if (!presence || std::memcmp(presence, kAbsent, bytes) != 0) return false;
+  file.Consume(bytes);
+  cmd.m_pMove.Clear();
+  cmd.m_pShot.Clear();
+  if (words == 3) cmd.m_pCondList.Clear();
+  return true;
+}
+
+}  // namespace
+
 void cEdCmd::Load(cDataFile& file) {
   cSaveData::Load(file);
-  m_pMove.Load(file);
-  m_pShot.Load(file);
-  if (g_nFileVersion >= kCondListStored) m_pCondList.Load(file);
+  if (!LoadNoRecords(*this, file)) {
+    m_pMove.Load(file);
+    m_pShot.Load(file);
+    if (g_nFileVersion >= kCondListStored) m_pCondList.Load(file);
+  }
   LoadVector(m_vSubFlow, file);
   LoadPlainVector(m_vParam, file);
   if (g_nFileVersion < kCurrentVersion) UpgradeCmd(*this);

@@ -66,15 +66,4 @@ constexpr std::array<cCmdInfo, kItemRowCount> kItemCmdRows = [] {
 const std::span<const cCmdInfo> CmdTable{kCmdRows};
 const std::span<const cCmdInfo> ItemCmdTable{kItemCmdRows};
 
-const cCmdInfo* FindCmdInfo(bool itemCmd, int kind) {
-  const std::span<const cCmdInfo> table = itemCmd ? ItemCmdTable : CmdTable;
-  if (kind < 0 || static_cast<size_t>(kind) >= table.size()) return nullptr;
-  return &table[static_cast<size_t>(kind)];
-}
-
-int CmdParamCount(bool itemCmd, int kind) {
-  const cCmdInfo* info = FindCmdInfo(itemCmd, kind);
-  return info ? info->paramCount : 0;
-}
-
 }  // namespace velmora

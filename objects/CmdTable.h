@@ -37,9 +37,17 @@ struct cCmdInfo {
 extern const std::span<const cCmdInfo> CmdTable;
 extern const std::span<const cCmdInfo> ItemCmdTable;
 
-// The row of a kind in the table of its numbering; null outside it.
-const cCmdInfo* FindCmdInfo(bool itemCmd, int kind);
-int CmdParamCount(bool itemCmd, int kind);
+// The row of a kind in the table of its numbering; null outside it. Inline:
+// every command of a stage asks on its load.
+inline const cCmdInfo* FindCmdInfo(bool itemCmd, int kind) {
+  const std::span<const cCmdInfo> table = itemCmd ? ItemCmdTable : CmdTable;
+  if (kind < 0 || static_cast<size_t>(kind) >= table.size()) return nullptr;
+  return &table[static_cast<size_t>(kind)];
+}
+inline int CmdParamCount(bool itemCmd, int kind) {
+  const cCmdInfo* info = FindCmdInfo(itemCmd, kind);
+  return info ? info->paramCount : 0;
+}
 // The kind in CmdTable numbering, for the rules written in it.
 inline int CmdTableKind(bool itemCmd, int kind) { return itemCmd ? kind + kItemKindOffset : kind; }
 

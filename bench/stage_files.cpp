@@ -3,6 +3,7 @@
 // bytes through plain stdio.
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <string>
@@ -19,6 +20,7 @@ using namespace velmora;
 
 constexpr int kSide = 512;
 constexpr size_t kChunk = 1 << 16;
+constexpr int kLoadRounds = 3;
 
 double Ms(std::chrono::steady_clock::time_point since) {
   return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - since).count();
@@ -82,6 +84,26 @@ double PlainRead(const std::string& host) {
   return Ms(start);
 }
 
+// One load and one plain read of the same bytes, each from the page cache,
+// taken back to back so that both see the machine in the same state.
+struct cLoadRound {
+  double load = 0;
+  double read = 0;
+  bool whole = false;
+};
+
+cLoadRound LoadRound(cStage& stage, const std::string& stored, const std::string& plain) {
+  cLoadRound round;
+  stage.InitDefault();
+  const auto start = std::chrono::steady_clock::now();
+  if (!stage.LoadFile(stored)) return round;
+  round.load = Ms(start);
+  round.whole = stage.m_nWidth == kSide && stage.m_vecItemCell[1].m_nGraphicNo == 3 &&
+                stage.m_vecCharaCell[static_cast<size_t>(stage.CellIndex(kSide - 1, kSide - 1))].m_vFlow.size() == 3;
+  round.read = PlainRead(plain);
+  return round;
+}
+
 }  // namespace
 
 int main() {
@@ -95,32 +117,34 @@ int main() {
   FillStage(stage);
 
   // Both writes start with no dirty pages waiting, so that neither is held
-  // back by the other's write-back; both reads find their file in the page
-  // cache, just written.
+  // back by the other's write-back.
   ::sync();
-  auto start = std::chrono::steady_clock::now();
+  const auto start = std::chrono::steady_clock::now();
   if (!stage.SaveFile(stored)) return 1;
   const double save = Ms(start);
   const long long bytes = FileSize(stored);
-  stage.InitDefault();
-  start = std::chrono::steady_clock::now();
-  if (!stage.LoadFile(stored)) return 1;
-  const double load = Ms(start);
-  const bool whole = stage.m_nWidth == kSide && stage.m_vecItemCell[1].m_nGraphicNo == 3 &&
-                     stage.m_vecCharaCell[static_cast<size_t>(stage.CellIndex(kSide - 1, kSide - 1))].m_vFlow.size() == 3;
-
   const double write = PlainWrite(plain, static_cast<size_t>(bytes));
-  const double read = PlainRead(plain);
+
+  // A shared machine has slow spells; the middle one of three rounds is
+  // reported, load and read as a pair.
+  ::sync();
+  std::vector<cLoadRound> rounds;
+  for (int i = 0; i < kLoadRounds; ++i) rounds.push_back(LoadRound(stage, stored, plain));
   ::unlink(host.c_str());
   ::unlink(plain.c_str());
-  if (!whole) {
-    std::fprintf(stderr, "stage round trip differs\n");
-    return 1;
+  for (const cLoadRound& round : rounds) {
+    if (!round.whole) {
+      std::fprintf(stderr, "stage round trip differs\n");
+      return 1;
+    }
   }
+  std::sort(rounds.begin(), rounds.end(),
+            [](const cLoadRound& a, const cLoadRound& b) { return a.load / a.read < b.load / b.read; });
+  const cLoadRound& middle = rounds[rounds.size() / 2];
   std::printf("BENCH stage_file_bytes %lld bytes\n", bytes);
   std::printf("BENCH stage_save_ms %.1f ms\n", save);
-  std::printf("BENCH stage_load_ms %.1f ms\n", load);
-  std::printf("BENCH stage_load_vs_read_ratio %.2f x target <= 10\n", load / read);
+  std::printf("BENCH stage_load_ms %.1f ms\n", middle.load);
+  std::printf("BENCH stage_load_vs_read_ratio %.2f x target <= 10\n", middle.load / middle.read);
   std::printf("BENCH stage_save_vs_write_ratio %.2f x target <= 10\n", save / write);
   return 0;
 }

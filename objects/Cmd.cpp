@@ -84,8 +84,10 @@ bool LoadNoRecords(cEdCmd& cmd, cDataFile& file) {
   const size_t words = g_nFileVersion >= kCondListStored ? 3 : 2;
   const size_t bytes = words * sizeof(int32_t);
   const char* presence = file.Peek(bytes);
-  static constexpr char kAbsent[3 * sizeof(int32_t)] = {};
-  if (!presence || std::memcmp(presence, kAbsent, bytes) != 0) return false;
+  if (!presence) return false;
+  int32_t present[3] = {};
+  std::memcpy(present, presence, bytes);
+  if (present[0] | present[1] | present[2]) return false;
   file.Consume(bytes);
   cmd.m_pMove.Clear();
   cmd.m_pShot.Clear();

@@ -38,12 +38,6 @@ constexpr cParamRef kParamRefs[] = {
 
 bool Beyond(int value, eDbList list) { return value >= RefSizes().DbListSize(list); }
 
-// A row reference that falls back to row 0. Row 0 and below can't lie
-// beyond a list, so most commands, which refer to none, ask nothing.
-void ClearBeyond(int16_t& row, eDbList list) {
-  if (row > 0 && Beyond(row, list)) row = 0;
-}
-
 constexpr bool OneRowPerKind() {
   for (size_t i = 0; i < std::size(kParamRefs); ++i) {
     for (size_t j = 0; j < i; ++j) {

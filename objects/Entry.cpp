@@ -22,12 +22,12 @@ void cEdEntry::SavePosition(cDataFile& file) const {
 }
 
 void cEdEntry::LoadInheritAndConds(cDataFile& file) {
-  m_bbInherit.Load(file);
+  LoadPlainVector(m_bbInherit, file);
   LoadVector(m_vCond, file);
 }
 
 void cEdEntry::SaveInheritAndConds(cDataFile& file) {
-  m_bbInherit.Save(file);
+  SavePlainVector(m_bbInherit, file);
   SaveVector(m_vCond, file);
 }
 

@@ -57,12 +57,6 @@ void RefreshStageEntries(std::vector<T>* entries) {
 
 int DbSize(eDbList list) { return RefSizes().DbListSize(list); }
 
-// A row number at or beyond its list points nowhere: it becomes なし.
-template <class N>
-void ClearBeyond(N& row, eDbList list) {
-  if (row >= DbSize(list)) row = 0;
-}
-
 }  // namespace
 
 void cEdBlock::ApplyInherit() { ApplyInheritTo<cEdBlock>(*this, BlockInheritGroups()); }

@@ -58,29 +58,4 @@ bool cInheritFlags::operator==(const std::vector<uint8_t>& flags) const {
   return m_nSize == flags.size() && std::equal(begin(), end(), flags.begin());
 }
 
-void cInheritFlags::Load(cDataFile& file) {
-  int32_t count = 0;
-  if (!file.ReadInt32(count) || count < 1) return;
-  const size_t bytes = static_cast<size_t>(count);
-  if (bytes > file.Remaining()) {
-    file.MarkDamaged();
-    return;
-  }
-  // Read aside first, so that a read the file cannot finish leaves the
-  // flags as they were.
-  if (bytes == m_nSize) {
-    if (const char* flags = file.ReadSpan(bytes)) {
-      std::memcpy(data(), flags, bytes);
-      return;
-    }
-  }
-  std::vector<uint8_t> flags(bytes);
-  if (file.Read(flags.data(), bytes)) *this = flags;
-}
-
-void cInheritFlags::Save(cDataFile& file) const {
-  file.WriteInt32(static_cast<int32_t>(m_nSize));
-  if (m_nSize) file.Write(data(), m_nSize);
-}
-
 }  // namespace velmora

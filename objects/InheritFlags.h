@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <vector>
 
-#include "core/DataFile.h"
 
 namespace velmora {
 
@@ -53,12 +52,6 @@ class cInheritFlags {
 
   bool operator==(const cInheritFlags& other) const;
   bool operator==(const std::vector<uint8_t>& flags) const;
-
-  // A 32-bit count, then the flags. A stored count below 1 leaves the flags
-  // as they were; a count beyond what the file still holds is damage and
-  // ends the stream, flags untouched.
-  void Load(cDataFile& file);
-  void Save(cDataFile& file) const;
 
  private:
   bool OnHeap() const { return m_nSize > kInline; }

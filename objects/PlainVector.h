@@ -1,6 +1,8 @@
 #pragma once
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "core/DataFile.h"
@@ -10,8 +12,10 @@ namespace velmora {
 // A nested list of plain numbers: a signed 32-bit count, then the values.
 // A stored count below 1 leaves the list as it was; a count beyond what
 // the file still holds is damage and ends the stream, list untouched.
-template <class T>
-void LoadPlainVector(std::vector<T>& vec, cDataFile& file) {
+// `List` is a vector or a list of the same interface that can be assigned
+// a vector (an entry's inherit flags).
+template <class List, class T = std::remove_cvref_t<decltype(*std::declval<List&>().data())>>
+void LoadPlainVector(List& vec, cDataFile& file) {
   int32_t count = 0;
   if (!file.ReadInt32(count) || count < 1) return;
   if (static_cast<uint64_t>(count) * sizeof(T) > file.Remaining()) {
@@ -31,10 +35,10 @@ void LoadPlainVector(std::vector<T>& vec, cDataFile& file) {
   if (file.Read(values.data(), bytes)) vec = std::move(values);
 }
 
-template <class T>
-void SavePlainVector(const std::vector<T>& vec, cDataFile& file) {
+template <class List>
+void SavePlainVector(const List& vec, cDataFile& file) {
   file.WriteInt32(static_cast<int32_t>(vec.size()));
-  if (!vec.empty()) file.Write(vec.data(), vec.size() * sizeof(T));
+  if (!vec.empty()) file.Write(vec.data(), vec.size() * sizeof(*vec.data()));
 }
 
 }  // namespace velmora

@@ -22,6 +22,14 @@ class cRefSizes {
 };
 
 const cRefSizes& RefSizes();
+
+// A row number at or beyond its list points nowhere: it becomes なし (0).
+// Row 0 and below lie beyond no list, so most rows ask nothing; a loaded
+// stage passes millions of them.
+template <class N>
+void ClearBeyond(N& row, eDbList list) {
+  if (row > 0 && row >= RefSizes().DbListSize(list)) row = 0;
+}
 // Null brings back the default. The caller keeps the object alive.
 void InstallRefSizes(const cRefSizes* sizes);
 

@@ -7,10 +7,10 @@
 #include <filesystem>
 
 #include "stage/Stage.h"
-#include "ui/stageview/StageView.h"
-#include "ui/surface/FixedBitmaps.h"
-#include "ui/surface/PaletteBitmaps.h"
-#include "ui/surface/SamplePictures.h"
+#include "graphics/stageview/StageView.h"
+#include "graphics/FixedBitmaps.h"
+#include "graphics/PaletteBitmaps.h"
+#include "graphics/SamplePictures.h"
 
 using namespace velmora;
 

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "ui/surface/Surface.h"
+#include "graphics/Surface.h"
 
 using namespace velmora;
 

@@ -16,8 +16,8 @@
 #include "project/WorldMap.h"
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
-#include "ui/surface/FixedBitmaps.h"
-#include "ui/surface/PaletteBitmaps.h"
+#include "graphics/FixedBitmaps.h"
+#include "graphics/PaletteBitmaps.h"
 
 namespace velmora {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 #include <vector>
 
-#include "ui/surface/CharaBitmaps.h"
+#include "graphics/CharaBitmaps.h"
 
 namespace velmora {
 

@@ -8,8 +8,8 @@
 #include "core/Prompt.h"
 #include "core/SystemText.h"
 #include "platform/WholeFile.h"
-#include "ui/surface/BitmapFile.h"
-#include "ui/surface/ProjectPalette.h"
+#include "graphics/BitmapFile.h"
+#include "graphics/ProjectPalette.h"
 
 namespace velmora {
 namespace {

@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-#include "ui/surface/Colour.h"
+#include "graphics/Colour.h"
 
 namespace velmora {
 

@@ -4,7 +4,7 @@
 #include "project/bitmap/BitmapConvert.h"
 #include "support/ScriptedPrompt.h"
 #include "support/TempProject.h"
-#include "ui/surface/ProjectPalette.h"
+#include "graphics/ProjectPalette.h"
 
 namespace velmora::testing {
 namespace {

@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "core/PrjOption.h"
-#include "core/TestPlay.h"
+#include "stage/TestPlay.h"
 #include "core/SaveData.h"
 #include "platform/MessageChannel.h"
 #include "platform/TextCodec.h"

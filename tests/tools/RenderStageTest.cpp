@@ -7,8 +7,8 @@
 #include "platform/ByteOrder.h"
 #include "sample/SampleProject.h"
 #include "support/TempProject.h"
-#include "ui/surface/CharaBitmaps.h"
-#include "ui/surface/FixedBitmaps.h"
+#include "graphics/CharaBitmaps.h"
+#include "graphics/FixedBitmaps.h"
 
 namespace velmora {
 namespace {

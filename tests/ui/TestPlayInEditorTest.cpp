@@ -11,7 +11,7 @@
 #include "EditorOnSample.h"
 #include "SampleDialog.h"
 #include "core/PrjOption.h"
-#include "core/TestPlay.h"
+#include "stage/TestPlay.h"
 #include "platform/MessageChannel.h"
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"

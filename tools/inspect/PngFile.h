@@ -1,7 +1,7 @@
 #pragma once
 #include <string>
 
-#include "ui/surface/PixelImage.h"
+#include "graphics/PixelImage.h"
 
 namespace velmora::inspect {
 

@@ -8,10 +8,10 @@
 #include "project/Database.h"
 #include "project/ProjectLoad.h"
 #include "stage/Stage.h"
-#include "ui/stageview/StageView.h"
-#include "ui/surface/CharaBitmaps.h"
-#include "ui/surface/FixedBitmaps.h"
-#include "ui/surface/PaletteBitmaps.h"
+#include "graphics/stageview/StageView.h"
+#include "graphics/CharaBitmaps.h"
+#include "graphics/FixedBitmaps.h"
+#include "graphics/PaletteBitmaps.h"
 
 namespace velmora::inspect {
 namespace {

@@ -15,7 +15,7 @@
 #include "sample/SamplePalette.h"
 #include "sample/SampleStages.h"
 #include "sound/SampleSounds.h"
-#include "ui/surface/SamplePictures.h"
+#include "graphics/SamplePictures.h"
 
 namespace velmora::sample {
 namespace {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "core/GameMark.h"
-#include "core/TestPlay.h"
+#include "stage/TestPlay.h"
 #include "platform/FileSystem.h"
 #include "platform/MessageChannel.h"
 #include "platform/TextCodec.h"

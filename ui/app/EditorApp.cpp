@@ -18,7 +18,7 @@
 #include "core/SheetSize.h"
 #include "core/SystemIni.h"
 #include "core/SystemText.h"
-#include "core/TestPlay.h"
+#include "stage/TestPlay.h"
 #include "core/TimedBackup.h"
 #include "objects/GValInfo.h"
 #include "platform/Clock.h"

@@ -2,7 +2,7 @@
 
 #include "core/EditConfig.h"
 #include "core/ProjectPaths.h"
-#include "core/TestPlay.h"
+#include "stage/TestPlay.h"
 #include "stage/StageHooks.h"
 #include "ui/app/EditorApp.h"
 #include "ui/app/HostWindow.h"

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "ui/palette/SurfaceImage.h"
-#include "ui/surface/Surface.h"
+#include "graphics/Surface.h"
 
 namespace velmora {
 namespace {

@@ -28,7 +28,7 @@
 #include "ui/palette/PaletteCommands.h"
 #include "ui/palette/SurfaceImage.h"
 #include "ui/stage/StageViewRules.h"
-#include "ui/stageview/ObjectDraw.h"
+#include "graphics/stageview/ObjectDraw.h"
 
 namespace velmora {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "stage/PaletteOps.h"
 #include "ui/framework/Dialog.h"
-#include "ui/surface/Surface.h"
+#include "graphics/Surface.h"
 
 namespace velmora {
 

@@ -1,6 +1,6 @@
 #include "ui/palette/SurfaceImage.h"
 
-#include "ui/surface/Surface.h"
+#include "graphics/Surface.h"
 
 namespace velmora {
 

@@ -8,7 +8,7 @@
 #include "stage/StageBrush.h"
 #include "stage/StageTools.h"
 #include "ui/stage/StageViewRules.h"
-#include "ui/stageview/ObjectDraw.h"
+#include "graphics/stageview/ObjectDraw.h"
 
 namespace velmora {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
-#include "ui/surface/Surface.h"
+#include "graphics/Surface.h"
 
 namespace velmora {
 

@@ -4,7 +4,7 @@
 
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
-#include "ui/stageview/StageView.h"
+#include "graphics/stageview/StageView.h"
 
 namespace velmora {
 

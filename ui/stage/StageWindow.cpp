@@ -13,7 +13,7 @@
 #include "core/SaveData.h"
 #include "core/SystemText.h"
 #include "platform/HostPath.h"
-#include "core/TestPlay.h"
+#include "stage/TestPlay.h"
 #include "stage/StageBrush.h"
 #include "stage/StageCommands.h"
 #include "stage/StageEdit.h"

@@ -10,7 +10,7 @@
 #include "ui/palette/PaletteWindows.h"
 #include "ui/stage/StageCommands.h"
 #include "ui/stage/StageViewRules.h"
-#include "ui/surface/Surface.h"
+#include "graphics/Surface.h"
 
 namespace velmora {
 

@@ -8,7 +8,7 @@
 #include "ui/framework/DialogWindow.h"
 #include "ui/stage/DragPreview.h"
 #include "ui/stage/StageWindow.h"
-#include "ui/stageview/StageView.h"
+#include "graphics/stageview/StageView.h"
 
 // Painting: the view is drawn from the records into an off-screen surface
 // of the client's size, which then goes to the window in one copy.

@@ -1,0 +1,32 @@
+#pragma once
+#include <functional>
+
+#include "stage/Stage.h"
+#include "graphics/Surface.h"
+
+namespace velmora {
+
+// A frame drawn over the view in cells, e.g. the stage window's cursor.
+struct cCellFrame {
+  int x = 0, y = 0;  // top left cell, in stage cells
+  int w = 0, h = 0;  // in cells; 0 draws no frame
+  cColourRef colour = 0;
+};
+
+// What the stage window asks of one repaint beside the stage itself.
+struct cViewOptions {
+  bool hasStage = true;  // without one the view stays black
+  cCellFrame cursor;
+  // Drawn in the frame step, under the cursor frame: what a drag will write.
+  std::function<void(cSurface& out)> preview;
+};
+
+// Paints the part of the stage seen from the scroll position (top left
+// cell) into `out`, which is the size of the window's client area: black,
+// blocks, characters, items at half size, the grid, the centre cross, the
+// scroll limits that are on, then the cursor frame. Pictures come from
+// the fixed bitmaps and the characters' own bitmaps; animation sets from
+// the database.
+void RenderStageView(const cStage& stage, cSurface& out, int scrollX, int scrollY, const cViewOptions& options);
+
+}  // namespace velmora

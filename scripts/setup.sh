@@ -6,7 +6,7 @@ set -euo pipefail
 PACKAGES=(
   build-essential cmake pkg-config git
   libgtest-dev
-  qt6-base-dev
+  qt6-base-dev qt6-translations-l10n  # Qt's own dialogs in Japanese
   libfluidsynth-dev timgm6mb-soundfont
   openttd-openmsx  # Standard MIDI Files from elsewhere, for the player tests
   libvorbis-dev

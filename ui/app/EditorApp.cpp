@@ -40,6 +40,7 @@
 #include "ui/framework/DialogManager.h"
 #include "ui/framework/Hook.h"
 #include "ui/framework/IdleWake.h"
+#include "ui/framework/QtCatalogue.h"
 #include "ui/framework/QtPrompt.h"
 #include "ui/framework/QtText.h"
 
@@ -113,6 +114,7 @@ bool cEditorApp::Start() {
   KeepLayersInHeap();
   SetDebugLog("EC_Editor.txt", false);
   if (!OpenReportLog("Report_Editor.txt")) return false;
+  if (!InstallJapaneseCatalogue()) ReportLine("Qt catalogue qtbase_ja : not found");
   if (QScreen* screen = QGuiApplication::primaryScreen()) {
     SetScreenSize({screen->geometry().width(), screen->geometry().height()});
   }

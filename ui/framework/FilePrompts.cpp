@@ -46,7 +46,9 @@ bool ToStored(const QString& host, std::string& stored) {
   return true;
 }
 
-QFileDialog::Options PromptOptions() { return QFileDialog::DontUseNativeDialog; }
+// A filter's label already names its patterns, as the author knows it;
+// the patterns are not shown a second time behind it.
+QFileDialog::Options PromptOptions() { return QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails; }
 
 }  // namespace
 

@@ -3,9 +3,23 @@
 #include "platform/TextCodec.h"
 
 namespace velmora {
+namespace {
 
-QString FromCp932(const std::string& cp932) { return QString::fromStdString(ToUtf8(cp932)); }
+constexpr char16_t kBackslash = u'\\';
+constexpr char16_t kYen = u'\u00A5';
 
-std::string ToCp932(const QString& text) { return ToCp932(std::string_view(text.toStdString())); }
+}  // namespace
+
+QString FromCp932(const std::string& cp932) {
+  QString text = QString::fromStdString(ToUtf8(cp932));
+  text.replace(kBackslash, kYen);
+  return text;
+}
+
+std::string ToCp932(const QString& text) {
+  QString bytesOnly = text;
+  bytesOnly.replace(kYen, kBackslash);
+  return ToCp932(std::string_view(bytesOnly.toStdString()));
+}
 
 }  // namespace velmora

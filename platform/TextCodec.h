@@ -12,6 +12,10 @@ namespace velmora {
 std::string ToCp932(std::string_view utf8);
 std::string ToUtf8(std::string_view cp932);
 
+// The characters of `utf8` that CP932 has no code for, in UTF-8 and in
+// order; empty when the whole text converts.
+std::string NotInCp932(std::string_view utf8);
+
 // A CP932 lead byte starts a two-byte character.
 bool IsCp932LeadByte(unsigned char byte);
 

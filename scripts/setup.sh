@@ -16,6 +16,12 @@ PACKAGES=(
   clang libfuzzer-14-dev libclang-rt-14-dev
 )
 
+# Typing Japanese: Qt carries the ibus front end itself; fcitx5 needs its
+# own, and it is installed where fcitx5 is.
+if command -v fcitx5 >/dev/null 2>&1 || pgrep -x fcitx5 >/dev/null 2>&1; then
+  PACKAGES+=(fcitx5-frontend-qt6)
+fi
+
 missing=()
 for package in "${PACKAGES[@]}"; do
   dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" || missing+=("$package")

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "SampleDialog.h"
+#include "support/ScriptedPrompt.h"
 #include "platform/TextCodec.h"
 #include "ui/controls/Combo.h"
 #include "ui/controls/EditVal.h"
@@ -124,6 +125,27 @@ TEST_F(BoundControls, InputMethodFullWidthDigitsArriveAsAscii) {
   kana.setCommitString(QString::fromUtf8("ゆうしゃ"));
   QApplication::sendEvent(Edit(kIdName), &kana);
   EXPECT_EQ(Edit(kIdName)->text(), QString::fromUtf8("ゆうしゃ"));
+}
+
+// A name composed through an input method reaches the record as CP932;
+// a character that CP932 lacks is refused there and then, never stored as '?'.
+TEST_F(BoundControls, InputMethodTextWithoutCp932CodeIsRefusedWithAMessage) {
+  cScriptedPrompt prompt;
+  Retype(kIdName, QString());
+  QInputMethodEvent hero;
+  hero.setCommitString(QString::fromUtf8("勇者"));
+  QApplication::sendEvent(Edit(kIdName), &hero);
+  QInputMethodEvent hangul;
+  hangul.setCommitString(QString::fromUtf8("한"));
+  QApplication::sendEvent(Edit(kIdName), &hangul);
+  EXPECT_EQ(Edit(kIdName)->text(), QString::fromUtf8("勇者"));
+  EXPECT_EQ(Edit(kIdName)->cursorPosition(), 2);
+  ASSERT_EQ(prompt.Shown().size(), 1u);
+  EXPECT_EQ(prompt.Shown()[0].caption, "エラー");
+  EXPECT_NE(prompt.LastText().find("U+D55C"), std::string::npos) << prompt.LastText();
+  TypeText(Edit(kIdName), QStringLiteral("\\"));
+  dialog->ApplyAll();
+  EXPECT_EQ(record.strName, SysText("勇者\\"));
 }
 
 TEST_F(BoundControls, LeavingAnEmptyBoxShowsTheFallback) {

@@ -1,6 +1,10 @@
 #include "ui/controls/EditStr.h"
 
 #include <QTextBlock>
+#include <algorithm>
+
+#include "core/Log.h"
+#include "core/SystemText.h"
 
 #include "ui/controls/EditWidgets.h"
 #include "ui/framework/Commands.h"
@@ -110,8 +114,22 @@ void cEditStr::Commit() {
   m_field.Set(ReflowText(Text(), m_limits, caret));
 }
 
+// A character without a CP932 code would reach the record as '?': it is
+// taken out again at once, and the author is told which one it was.
+bool cEditStr::RefuseUnrepresentable(const QString& shown) {
+  const QString codes = CodePointsNotInCp932(shown);
+  if (codes.isEmpty()) return false;
+  const QString previous = FromRecord(m_strPrevious);
+  const int caret = Caret() - static_cast<int>(shown.size() - previous.size());
+  SetWidgetText(previous);
+  SetCaret(std::max(0, caret));
+  ErrorBox(SysText("シフトJISで表せない文字（%s）は入力できません！"), codes.toStdString().c_str());
+  return true;
+}
+
 void cEditStr::OnChange() {
   const QString shown = WidgetText();
+  if (RefuseUnrepresentable(shown)) return;
   const std::string text = ToRecord(shown);
   if (IsBackspaceDown() && JoinPassesWidth(m_strPrevious, text, m_limits)) {
     const int caret = Caret() + 1;

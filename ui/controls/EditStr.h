@@ -32,6 +32,7 @@ class cEditStr : public cControl {
   int Caret() const;
   void SetCaret(int position);
   bool IsBackspaceDown() const;
+  bool RefuseUnrepresentable(const QString& shown);
 
   cLineEdit* m_pLine = nullptr;
   cPlainEdit* m_pPlain = nullptr;

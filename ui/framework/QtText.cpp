@@ -1,5 +1,7 @@
 #include "ui/framework/QtText.h"
 
+#include <QStringList>
+
 #include "platform/TextCodec.h"
 
 namespace velmora {
@@ -20,6 +22,16 @@ std::string ToCp932(const QString& text) {
   QString bytesOnly = text;
   bytesOnly.replace(kYen, kBackslash);
   return ToCp932(std::string_view(bytesOnly.toStdString()));
+}
+
+QString CodePointsNotInCp932(const QString& text) {
+  QString bytesOnly = text;
+  bytesOnly.replace(kYen, kBackslash);
+  QStringList codes;
+  for (char32_t code : QString::fromStdString(NotInCp932(bytesOnly.toStdString())).toUcs4()) {
+    codes << QStringLiteral("U+%1").arg(static_cast<uint>(code), 4, 16, QLatin1Char('0')).toUpper();
+  }
+  return codes.join(QLatin1Char(' '));
 }
 
 }  // namespace velmora

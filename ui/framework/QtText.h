@@ -14,6 +14,9 @@ namespace velmora {
 // both ¥ and \ become 0x5C.
 QString FromCp932(const std::string& cp932);
 std::string ToCp932(const QString& text);
+// The characters of `text` that a record can't hold, as "U+D55C U+1F409";
+// empty when ToCp932 keeps every one.
+QString CodePointsNotInCp932(const QString& text);
 // The dialogs' own wording is written in UTF-8 in the sources.
 inline QString Ui(const char* utf8) { return QString::fromUtf8(utf8); }
 

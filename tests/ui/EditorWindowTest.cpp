@@ -18,13 +18,14 @@
 #include "core/SystemText.h"
 #include "platform/FileSystem.h"
 #include "sample/SampleProject.h"
+#include "stage/StageBrush.h"
 #include "stage/StageEdit.h"
 #include "ui/app/EditorApp.h"
 #include "ui/app/HostWindow.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/DialogWindow.h"
 #include "ui/framework/QtText.h"
-#include "ui/stage/DragPreview.h"
+#include "ui/stage/BrushPreview.h"
 
 namespace velmora::testing {
 namespace {
@@ -263,7 +264,7 @@ TEST_F(EditorWindow, LineAndRectangleDragsShowWhatTheReleaseWrites) {
   for (cSurface* out : {&currentLayer, &allLayers}) {
     out->CreateSurface(640, 480, 32, false);
     out->Fill(0);
-    DrawDragPreview(EditStage(), edit, {3, 9}, out == &allLayers, *out, 0, 0);
+    DrawBrushPreview(EditStage(), edit, {3, 9}, out == &allLayers, *out, 0, 0);
   }
   EXPECT_FALSE(AllBlack(CellInside(currentLayer, 3, 9)));
   EXPECT_TRUE(AllBlack(CellInside(currentLayer, 4, 9)));
@@ -283,11 +284,41 @@ TEST_F(EditorWindow, LineAndRectangleDragsShowWhatTheReleaseWrites) {
   edit.m_iBrushW = 2;
   edit.m_iRectX = 0;
   currentLayer.Fill(0);
-  DrawDragPreview(EditStage(), edit, {3, 9}, false, currentLayer, 1, 0);
+  DrawBrushPreview(EditStage(), edit, {3, 9}, false, currentLayer, 1, 0);
   EXPECT_TRUE(AllBlack(CellInside(currentLayer, 0, 9)));   // stage column 1: gap
   EXPECT_FALSE(AllBlack(CellInside(currentLayer, 1, 9)));  // stage column 2: block
   EXPECT_TRUE(AllBlack(CellInside(currentLayer, 2, 9)));
   edit.m_bDrag = 0;
+}
+
+// A range copied with the right button shows what it holds under the
+// cursor from the moment it is let go, and follows the cursor without
+// writing anything; a brush picked from a palette shows only its frame.
+TEST_F(EditorWindow, CopiedRangeShowsItsContentUnderTheCursor) {
+  cStageEdit& edit = StageEdit();
+  Stage()->ScrollTo(0, 0);
+  edit.m_iTool = kToolPen;
+  edit.m_iCursorMode = kCursorPen;
+  edit.m_vecBrushBlock.assign(1, CommonPalette().m_vecBlockPlt.at(1));
+  Drag(Qt::LeftButton, {3, 1}, {3, 1});
+  ASSERT_EQ(BlockAt(EditStage(), 4, 1), 0);
+
+  Drag(Qt::RightButton, {3, 1}, {4, 1});  // a block and an empty cell
+  Stage()->RenderView();
+  const std::vector<uint32_t> block = CellInside(Stage()->View(), 3, 1);
+  EXPECT_EQ(CellInside(Stage()->View(), 4, 1), block) << "the copy stands at the cursor at once";
+  EXPECT_TRUE(AllBlack(CellInside(Stage()->View(), 5, 1)));
+
+  Send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton, 6, 5);
+  Stage()->RenderView();
+  EXPECT_EQ(CellInside(Stage()->View(), 6, 5), block);
+  EXPECT_TRUE(AllBlack(CellInside(Stage()->View(), 7, 5)));
+  EXPECT_TRUE(AllBlack(CellInside(Stage()->View(), 4, 1)));
+  EXPECT_EQ(BlockAt(EditStage(), 6, 5), 0);
+
+  edit.m_iPltIndex = 1;  // picked from a palette
+  Stage()->RenderView();
+  EXPECT_TRUE(AllBlack(CellInside(Stage()->View(), 6, 5)));
 }
 
 TEST_F(EditorWindow, MinimisingHidesThePalettesUntilTheWindowComesBack) {

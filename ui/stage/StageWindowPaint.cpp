@@ -6,7 +6,7 @@
 #include "core/SystemText.h"
 #include "stage/StageEdit.h"
 #include "ui/framework/DialogWindow.h"
-#include "ui/stage/DragPreview.h"
+#include "ui/stage/BrushPreview.h"
 #include "ui/stage/StageWindow.h"
 #include "graphics/stageview/StageView.h"
 
@@ -25,7 +25,7 @@ void cStageWindow::RenderView() {
   options.cursor = CursorFrame(StageEdit(), m_cursor);
   const bool allLayers = QGuiApplication::keyboardModifiers() & Qt::ShiftModifier;
   options.preview = [&](cSurface& out) {
-    DrawDragPreview(EditStage(), StageEdit(), m_cursor, allLayers, out, ScrollX(), ScrollY());
+    DrawBrushPreview(EditStage(), StageEdit(), m_cursor, allLayers, out, ScrollX(), ScrollY());
   };
   RenderStageView(EditStage(), m_view, ScrollX(), ScrollY(), options);
 }

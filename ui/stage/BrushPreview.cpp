@@ -1,4 +1,4 @@
-#include "ui/stage/DragPreview.h"
+#include "ui/stage/BrushPreview.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -48,6 +48,35 @@ std::vector<cPreviewCell> RectPreview(const cStageEdit& edit, cCellPos cursor, c
   return preview;
 }
 
+// The pen writes the whole brush from the cursor on, row by row; only the
+// part in view is drawn, as a copy may be the size of a whole large stage.
+std::vector<cPreviewCell> PenPreview(const cStageEdit& edit, cCellPos cursor, const cSurface& out, int scrollX,
+                                     int scrollY) {
+  const int columns = std::min(edit.m_iBrushW, scrollX + out.Width() / kCellDots + 1 - cursor.x);
+  const int rows = std::min(edit.m_iBrushH, scrollY + out.Height() / kCellDots + 1 - cursor.y);
+  std::vector<cPreviewCell> preview;
+  for (int r = 0; r < rows; ++r) {
+    for (int c = 0; c < columns; ++c) preview.push_back({{cursor.x + c, cursor.y + r}, r * edit.m_iBrushW + c});
+  }
+  return preview;
+}
+
+bool ShowsCopiedRange(const cStageEdit& edit) {
+  return edit.m_iCursorMode == kCursorPen && edit.m_iPltIndex == -1;
+}
+
+bool ShowsDrag(const cStageEdit& edit) {
+  return edit.m_bDrag && (edit.m_iCursorMode == kCursorLine || edit.m_iCursorMode == kCursorRect);
+}
+
+std::vector<cPreviewCell> PreviewCells(const cStageEdit& edit, cCellPos cursor, const cSurface& out, int scrollX,
+                                       int scrollY) {
+  if (ShowsCopiedRange(edit)) return PenPreview(edit, cursor, out, scrollX, scrollY);
+  if (!ShowsDrag(edit)) return {};
+  if (edit.m_iCursorMode == kCursorLine) return LinePreview(edit, cursor);
+  return RectPreview(edit, cursor, out, scrollX, scrollY);
+}
+
 // The brush record of one layer at `index`, drawn like a placed one.
 void DrawBrushRecord(const cStageEdit& edit, int layer, int index, cSurface& out, int x, int y) {
   const auto at = [index](const auto& brush) {
@@ -66,12 +95,10 @@ void DrawBrushRecord(const cStageEdit& edit, int layer, int index, cSurface& out
 
 }  // namespace
 
-void DrawDragPreview(const cStage& stage, const cStageEdit& edit, cCellPos cursor, bool allLayers, cSurface& out,
+void DrawBrushPreview(const cStage& stage, const cStageEdit& edit, cCellPos cursor, bool allLayers, cSurface& out,
                      int scrollX, int scrollY) {
-  if (!edit.m_bDrag || (edit.m_iCursorMode != kCursorLine && edit.m_iCursorMode != kCursorRect)) return;
-  const bool line = edit.m_iCursorMode == kCursorLine;
-  const std::vector<cPreviewCell> cells =
-      line ? LinePreview(edit, cursor) : RectPreview(edit, cursor, out, scrollX, scrollY);
+  const std::vector<cPreviewCell> cells = PreviewCells(edit, cursor, out, scrollX, scrollY);
+  const bool line = ShowsDrag(edit) && edit.m_iCursorMode == kCursorLine;
   const int firstLayer = allLayers ? 0 : edit.m_iLayer;
   const int lastLayer = allLayers ? 2 : edit.m_iLayer;
   std::vector<cCellPos> framed;

@@ -53,12 +53,15 @@ void WarnIfFileMissing() {
   Warn("現在編集中のステージのファイル名が変更された可能性があります。\nステージファイルを開き直さないとデータの上書き保存やテストプレイに失敗する可能性があります。");
 }
 
-cFilePrompt StageFilePrompt(const char* title, const std::string& pattern) {
+// The label is the system's own text; the pattern is what finds the files.
+// Opening names every version ("StageFile ( *.stg4_ )") and must list them
+// all, so its pattern runs on behind the label's.
+cFilePrompt StageFilePrompt(const char* title, const std::string& extension, const char* patternTail = "") {
   cFilePrompt request;
   request.title = SysText(title);
   request.folder = PathOf(ePath::Stage);
-  const std::string label = "StageFile ( *." + pattern + " )";
-  request.filter = label + std::string(1, '\0') + "*." + pattern + std::string(1, '\0');
+  const std::string label = "StageFile ( *." + extension + " )";
+  request.filter = label + std::string(1, '\0') + "*." + extension + patternTail + std::string(1, '\0');
   return request;
 }
 
@@ -209,7 +212,7 @@ int SaveStage(int overwrite) {
 
 int OpenStage() {
   std::string path;
-  if (!Prompt().OpenFile(nullptr, StageFilePrompt("読み込むファイルの選択", "stg4_"), path)) {
+  if (!Prompt().OpenFile(nullptr, StageFilePrompt("読み込むファイルの選択", "stg4_", "*"), path)) {
     WarnIfFileMissing();
     return 0;
   }

@@ -271,12 +271,14 @@ void cStageWindow::InstallBuiltInHandlers() {
     cNewStageDialog dialog(Manager(), Window());
     if (dialog.DoModal(kDisableOthers) == 1) AfterStageChange();
   };
+  // A stage that stays (the author stopped, or the file was not read)
+  // keeps this window; its history was made anew.
   m_handlers[A::Open] = [this] {
     if (OpenStage()) AfterStageChange();
+    else UpdateStates();
   };
   m_handlers[A::Close] = [this] {
-    CloseStage();
-    AfterStageChange();
+    if (CloseStage()) AfterStageChange();
   };
   m_handlers[A::Save] = [this] {
     SaveCommonPalette();

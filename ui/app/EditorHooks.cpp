@@ -23,10 +23,17 @@ class cEditorTestPlayHost : public cTestPlayHost {
   void RedrawStageWindow() override {
     if (m_app.StageWindow()) m_app.StageWindow()->Repaint();
   }
+  // The active flag follows the application's state here too: when the
+  // game's window never took the focus, no change of it will come to set
+  // the flag again.
   void ActivateStageWindow() override {
     if (m_app.StageWindow() && m_app.StageWindow()->Window()) m_app.StageWindow()->Window()->activateWindow();
+    m_app.SetActive(QGuiApplication::applicationState() == Qt::ApplicationActive);
   }
   void ClearActiveFlag() override { m_app.ClearActiveFlag(); }
+  void ShowTestPlayState() override {
+    if (m_app.StageWindow()) m_app.StageWindow()->ShowTestPlayStatus();
+  }
 
  private:
   cEditorApp& m_app;

@@ -1,6 +1,8 @@
+#include <QAction>
 #include <QLabel>
 #include <QStatusBar>
 #include <QTest>
+#include <QToolBar>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -21,6 +23,7 @@ namespace velmora::testing {
 namespace {
 
 constexpr int kTestPlayCommand = 40006;
+constexpr int kUndoButton = 40052;
 const char kStageHost[] = "data/stg4/Stage1.stg4_950";
 
 // The editor's own test play host, with a clock of the test's and a game
@@ -64,6 +67,12 @@ class TestPlayInTheEditor : public cEditorOnSample {
       if (prompt.Shown()[i].caption != "ステージの保存") texts.push_back(prompt.Shown()[i].text);
     }
     return texts;
+  }
+  bool UndoButtonEnabled() {
+    for (const QAction* action : Stage().Window()->findChild<QToolBar*>()->actions()) {
+      if (action->data().toInt() == kUndoButton) return action->isEnabled();
+    }
+    return false;
   }
   bool StageSaved() const { return ReadBytes(kStageHost) != savedStage; }
   static bool HistoryBuilt() {
@@ -157,6 +166,7 @@ TEST_F(TestPlayInTheEditor, TheStandinGamePlaysTheSavedStageAndTheEditorComesBac
   ASSERT_EQ(1, StageEdit().m_bTestPlay);
   EXPECT_FALSE(StageEdit().m_bStageChanged);
   EXPECT_FALSE(app->IsActive()) << "the idle drawing stops while the game has the screen";
+  EXPECT_FALSE(UndoButtonEnabled()) << "nothing to undo while the stage is locked";
   Stage().Repaint();
   QTest::qWait(20);
   EXPECT_EQ((QStringList{QString::fromUtf8("座標 (4,2)"), QString::fromUtf8("テストプレイ中です…")}), StatusTexts(Stage()));
@@ -183,6 +193,7 @@ TEST_F(TestPlayInTheEditor, TheStandinGamePlaysTheSavedStageAndTheEditorComesBac
   EXPECT_TRUE(FramedInPalette(blocks, kPicked));
   EXPECT_TRUE(HistoryBuilt());
   EXPECT_GT(EditStage().m_iUndoCount, 0);
+  EXPECT_FALSE(UndoButtonEnabled()) << "the new history has no step yet";
   const std::string report = ReadText("Report_StandinGame.txt");
   EXPECT_EQ(0u, report.find("stage " + StageEdit().m_strPath + "\n")) << report;
   const cStage& saved = EditStage();

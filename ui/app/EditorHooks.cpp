@@ -16,9 +16,15 @@ namespace {
 class cEditorTestPlayHost : public cTestPlayHost {
  public:
   explicit cEditorTestPlayHost(cEditorApp& app) : m_app(app) {}
+  // The undo buttons follow the history both ways: off while the game
+  // runs, back with the history after it.
+  void ClearHistory() override {
+    cTestPlayHost::ClearHistory();
+    UpdateStageWindow();
+  }
   void AllocHistory() override {
     cTestPlayHost::AllocHistory();
-    if (m_app.StageWindow()) m_app.StageWindow()->UpdateStates();
+    UpdateStageWindow();
   }
   void RedrawStageWindow() override {
     if (m_app.StageWindow()) m_app.StageWindow()->Repaint();
@@ -36,6 +42,10 @@ class cEditorTestPlayHost : public cTestPlayHost {
   }
 
  private:
+  void UpdateStageWindow() {
+    if (m_app.StageWindow()) m_app.StageWindow()->UpdateStates();
+  }
+
   cEditorApp& m_app;
 };
 

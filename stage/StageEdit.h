@@ -106,7 +106,8 @@ bool SaveCommonPalette();
 // before another stage is opened or the stage closed. 0 stops the leaving.
 int AskSaveBeforeExit();
 // At start-up: the stage edited last, read on this thread; a stage that
-// can't be read leaves an empty 32 x 32 one with no file.
+// can't be read whole leaves an empty 32 x 32 one with no file, as opening
+// it from the menu would refuse it.
 void OpenLastStage(const std::string& path);
 
 }  // namespace velmora

@@ -284,7 +284,7 @@ void OpenLastStage(const std::string& path) {
   edit.m_strPath.clear();
   if (path.empty()) return;
   CheckStageFile(path);
-  if (EditStage().LoadFile(path)) {
+  if (EditStage().LoadWholeFile(path)) {
     edit.m_bHasStage = 1;
     edit.m_strPath = path;
   } else {

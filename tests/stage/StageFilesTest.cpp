@@ -128,6 +128,12 @@ TEST_F(cStageFilesTest, StartUpOpensTheLastStageOrAnEmptyOne) {
   OpenLastStage(".\\data\\stg4\\gone.stg4_950");
   EXPECT_EQ(0, StageEdit().m_bHasStage);
   EXPECT_EQ(32, EditStage().m_nWidth);
+
+  const std::vector<uint8_t> whole = ReadBytes(kHost);
+  WriteBytes("data/stg4/cut.stg4_950", std::vector<uint8_t>(whole.begin(), whole.begin() + 40));
+  OpenLastStage(".\\data\\stg4\\cut.stg4_950");
+  EXPECT_EQ(0, StageEdit().m_bHasStage);
+  EXPECT_TRUE(StageEdit().m_strPath.empty());
 }
 
 // Every way of getting a stage builds its history for the stage's own

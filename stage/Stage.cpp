@@ -86,6 +86,12 @@ void cStage::Exchange(cStage& other) {
   m_iWheelDir = wheelDir;
 }
 
+void cStage::ExchangePalette(cStage& other) {
+  m_vecBlockPlt.swap(other.m_vecBlockPlt);
+  m_vecCharaPlt.swap(other.m_vecCharaPlt);
+  m_vecItemPlt.swap(other.m_vecItemPlt);
+}
+
 int cStage::SetSize(int width, int height, int dirX, int dirY) {
   if (width == 0 || height == 0) {
     DebugBox("%s", SysText("SetSize()で 0 を指定しました！"));

@@ -120,6 +120,8 @@ class cStage : public cSaveData {
   // beside the edit stage can take its place; the wheel direction belongs
   // to the process and stays.
   void Exchange(cStage& other);
+  // The same for the three palette lists alone.
+  void ExchangePalette(cStage& other);
   // dirX 1 keeps the right columns, dirY 1 the bottom rows. 0 for a size of 0.
   int SetSize(int width, int height, int dirX, int dirY);
   int CellIndex(int x, int y) const { return (y << m_nPitch_Shift) + x; }

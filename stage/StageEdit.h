@@ -101,6 +101,12 @@ int CloseStage();
 int FindLatestVersion(std::string& out, const std::string& base, const std::string& extension);
 int LoadStagePalette();
 int SaveStagePalette();
+// The three palette lists of a stage palette file take the place of the
+// stage's own only when the whole file was read; false leaves them alone.
+bool ReadStagePaletteFile(const std::string& path, cStage& stage);
+// The words for a stage palette file that could not be read: a format for
+// its path.
+const char* StagePaletteLoadFailure();
 bool SaveCommonPalette();
 // The questions before unsaved work is left: on closing the window, and
 // before another stage is opened or the stage closed. 0 stops the leaving.

@@ -72,35 +72,6 @@ cFilePrompt PalettePrompt(const char* title) {
   return request;
 }
 
-// The stage palette file's words after a failed read: the persistence
-// core's for a file of a newer editor, else the stage file's in kind.
-const char* PaletteLoadFailure() {
-  return SysText(g_bFileTooNew ? "%s の読み込みに失敗しました！\n実行ファイル(.exe)より上位のバージョンのファイルは使用できません。"
-                               : "ステージパレットファイル %s の読み込みに失敗しました！");
-}
-
-// The three lists are read beside the stage's own and take their place
-// only when the whole file was read, so a file that fails leaves the
-// palette as it was.
-bool ReadStagePaletteFile(const std::string& path, cStage& stage) {
-  DataFilePtr file = OpenRead(path);
-  if (!file) return false;
-  cStage read;
-  {
-    // Entries inherit from the palette they are read into, as when read in place.
-    cStagePaletteScope scope(read);
-    ReadPaletteLists(read.Palette(), *file);
-  }
-  const bool whole = !file->Damaged() && !file->Ended() && !read.m_vecBlockPlt.empty() && !read.m_vecCharaPlt.empty() &&
-                     !read.m_vecItemPlt.empty();
-  CloseData(file);
-  if (!whole) return false;
-  stage.m_vecBlockPlt.swap(read.m_vecBlockPlt);
-  stage.m_vecCharaPlt.swap(read.m_vecCharaPlt);
-  stage.m_vecItemPlt.swap(read.m_vecItemPlt);
-  return true;
-}
-
 // One question before unsaved work is left behind. Yes saves, No goes on
 // and Cancel stops; a Yes whose save failed or was cancelled stops too,
 // since going on would drop what the author meant to keep.
@@ -314,7 +285,7 @@ int LoadStagePalette() {
   if (!Prompt().OpenFile(nullptr, PalettePrompt("読み込むファイルの選択"), path)) return 0;
   cStage& stage = EditStage();
   if (!ReadStagePaletteFile(path, stage)) {
-    ErrorBox(PaletteLoadFailure(), path.c_str());
+    ErrorBox(StagePaletteLoadFailure(), path.c_str());
     return 0;
   }
   RefreshBlockFromStage(stage.m_vecBlockCell);
@@ -332,6 +303,32 @@ int SaveStagePalette() {
   if (!file) return 0;
   WritePaletteLists(EditStage().Palette(), *file);
   return CloseData(file) ? 1 : 0;
+}
+
+// The three lists are read beside the stage's own and take their place
+// only when the whole file was read, so a file that fails leaves the
+// palette as it was.
+bool ReadStagePaletteFile(const std::string& path, cStage& stage) {
+  DataFilePtr file = OpenRead(path);
+  if (!file) return false;
+  cStage read;
+  {
+    // Entries inherit from the palette they are read into, as when read in place.
+    cStagePaletteScope scope(read);
+    ReadPaletteLists(read.Palette(), *file);
+  }
+  const bool whole = !file->Damaged() && !file->Ended() && !read.m_vecBlockPlt.empty() && !read.m_vecCharaPlt.empty() &&
+                     !read.m_vecItemPlt.empty();
+  CloseData(file);
+  if (whole) stage.ExchangePalette(read);
+  return whole;
+}
+
+// The persistence core's words for a file of a newer editor, else the
+// stage file's in kind.
+const char* StagePaletteLoadFailure() {
+  return SysText(g_bFileTooNew ? "%s の読み込みに失敗しました！\n実行ファイル(.exe)より上位のバージョンのファイルは使用できません。"
+                               : "ステージパレットファイル %s の読み込みに失敗しました！");
 }
 
 bool SaveCommonPalette() {

@@ -184,6 +184,43 @@ TEST_F(cStageFilesTest, NewStageReadsTheNewestTemplateAndItsPaletteSource) {
   EXPECT_EQ(m_prompt.ClosedMessageWindows() - windowsClosedBefore, 4);
 }
 
+// The files of a new stage are read before anything changes: one that
+// can't be read leaves the stage being edited as it was.
+TEST_F(cStageFilesTest, ANewStageFromFilesThatCannotBeReadLeavesTheStageAsItWas) {
+  std::filesystem::create_directories("data/plt4");
+  const std::vector<uint8_t> whole = ReadBytes(kHost);
+  WriteBytes("data/stg4/cut.stg4_950", std::vector<uint8_t>(whole.begin(), whole.end() - 40));
+  std::vector<uint8_t> garbage(whole.begin(), whole.begin() + 4);
+  garbage.resize(64, 0xff);
+  WriteBytes("data/plt4/broken.plt4", garbage);
+  StageEdit().m_bHasStage = 1;
+  StageEdit().m_bStageChanged = 1;
+  EditStage().m_iUndoCount = 2;
+  EditStage().m_vecBlockCell[9].m_nGraphicNo = 6;
+
+  m_prompt.QueueAnswer(eAnswer::Yes);
+  EXPECT_EQ(eNewStageResult::Failed, CreateNewStage("", kNewPaletteFromFile, "data\\plt4\\broken.plt4"));
+  EXPECT_EQ("ステージパレットファイル data\\plt4\\broken.plt4 の読み込みに失敗しました！", m_prompt.LastText());
+  m_prompt.QueueAnswer(eAnswer::Yes);
+  EXPECT_EQ(eNewStageResult::Failed, CreateNewStage("data\\stg4\\cut.stg4_950", kNewPaletteEmpty, ""));
+  EXPECT_EQ("ステージファイル data\\stg4\\cut.stg4_950 が見つかりません！", m_prompt.LastText());
+
+  EXPECT_EQ(0, g_bNoSave);
+  EXPECT_EQ(6, EditStage().m_vecBlockCell[9].m_nGraphicNo);
+  EXPECT_TRUE(EditStage().HasPlayer());
+  EXPECT_EQ(".\\data\\stg4\\a.stg4_950", StageEdit().m_strPath);
+  EXPECT_EQ(1, StageEdit().m_bStageChanged);
+  EXPECT_EQ(2u, StageEdit().m_vecUndoBlock.size()) << "the history of the stage that stays";
+
+  EditStage().m_vecBlockPlt.resize(5);
+  m_prompt.QueuePath("data\\plt4\\good.plt4");
+  ASSERT_EQ(1, SaveStagePalette());
+  m_prompt.QueueAnswer(eAnswer::Yes);
+  EXPECT_EQ(eNewStageResult::Created, CreateNewStage("", kNewPaletteFromFile, "data\\plt4\\good.plt4"));
+  EXPECT_EQ(5u, EditStage().m_vecBlockPlt.size());
+  EXPECT_FALSE(EditStage().HasPlayer());
+}
+
 // Open and close leave the stage as leaving the window does: unsaved work
 // is asked about first, and the file dialog comes only after the answers.
 TEST_F(cStageFilesTest, OpenAndCloseAskAboutUnsavedWorkFirst) {

@@ -19,6 +19,8 @@ constexpr int kOpenMenu = 40004;
 constexpr int kCloseMenu = 40130;
 constexpr int kSaveMenu = 40005;
 constexpr int kLoadStagePalette = 40083;
+constexpr int kBlockLayer = 40048;
+constexpr int kPenTool = 40044;
 const char kStage1Host[] = "data/stg4/Stage1.stg4_950";
 
 // The editor on the sample's first stage, with a block just painted into
@@ -29,6 +31,9 @@ class StageFilesInTheEditor : public cEditorOnSample {
     cEditorOnSample::SetUp();
     if (HasFatalFailure()) return;
     onDisk = ReadBytes(kStage1Host);
+    // The pen on the block layer, whatever an earlier test left.
+    Command(Stage(), kBlockLayer);
+    Command(Palettes().Palette({0, 0}), kPenTool);
     Stage().ScrollTo(0, 0);
     PickEntry({0, 0}, 1);
     Click(Stage(), QPoint(5 * 32 + 10, 3 * 32 + 10));

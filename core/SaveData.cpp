@@ -366,6 +366,15 @@ int cSaveData::LoadFile(const std::string& name) {
   return 1;
 }
 
+int cSaveData::LoadWholeFile(const std::string& name) {
+  DataFilePtr file = OpenRead(name);
+  if (!file) return 0;
+  Load(*file);
+  const bool whole = !file->Damaged() && !file->Ended();
+  CloseData(file);
+  return whole ? 1 : 0;
+}
+
 int cSaveData::SaveFile(const std::string& name) {
   if (g_bNoSave) return 0;
   DataFilePtr file = OpenWrite(name);

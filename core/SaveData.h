@@ -108,6 +108,10 @@ class cSaveData {
   virtual void Save(cDataFile& file);
 
   int LoadFile(const std::string& name);
+  // As LoadFile, and 0 too when the contents turned out damaged or ended
+  // before the record did: the record then holds part of the file and is
+  // only fit to be thrown away.
+  int LoadWholeFile(const std::string& name);
   int SaveFile(const std::string& name);
   void Reset();
   void CopyFrom(const cSaveData& other);

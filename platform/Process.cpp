@@ -1,5 +1,7 @@
 #include "platform/Process.h"
 
+#include <fcntl.h>
+#include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -17,9 +19,54 @@ std::vector<pid_t>& Started() {
   return pids;
 }
 
+// The self-pipe of SIGCHLD: the handler may only write, the loop reads.
+int g_childPipe[2] = {-1, -1};
+struct sigaction g_previousChildAction {};
+
+void OnChildEnded(int signal, siginfo_t* info, void* context) {
+  const int savedErrno = errno;
+  const char byte = 0;
+  // A full pipe already says what this byte would.
+  [[maybe_unused]] const ssize_t written = ::write(g_childPipe[1], &byte, 1);
+  errno = savedErrno;
+  if (g_previousChildAction.sa_flags & SA_SIGINFO) {
+    if (g_previousChildAction.sa_sigaction) g_previousChildAction.sa_sigaction(signal, info, context);
+  } else if (g_previousChildAction.sa_handler != SIG_DFL && g_previousChildAction.sa_handler != SIG_IGN) {
+    g_previousChildAction.sa_handler(signal);
+  }
+}
+
+int InstallChildWatch() {
+  if (::pipe2(g_childPipe, O_NONBLOCK | O_CLOEXEC) != 0) return -1;
+  struct sigaction action {};
+  action.sa_sigaction = OnChildEnded;
+  action.sa_flags = SA_SIGINFO | SA_RESTART | SA_NOCLDSTOP;
+  sigemptyset(&action.sa_mask);
+  if (::sigaction(SIGCHLD, &action, &g_previousChildAction) != 0) {
+    ::close(g_childPipe[0]);
+    ::close(g_childPipe[1]);
+    g_childPipe[0] = g_childPipe[1] = -1;
+  }
+  return g_childPipe[0];
+}
+
+void DrainChildPipe() {
+  if (g_childPipe[0] < 0) return;
+  char bytes[64];
+  while (::read(g_childPipe[0], bytes, sizeof bytes) > 0) {
+  }
+}
+
 }  // namespace
 
+int ChildEndedFd() {
+  static const int fd = InstallChildWatch();
+  return fd;
+}
+
 void CollectEndedProcesses() {
+  // Emptied first: a child that ends after this is signalled afresh.
+  DrainChildPipe();
   std::vector<pid_t>& pids = Started();
   std::erase_if(pids, [](pid_t pid) { return ::waitpid(pid, nullptr, WNOHANG) != 0; });
 }

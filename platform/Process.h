@@ -11,7 +11,14 @@ namespace velmora {
 // run of test plays leaves no defunct processes behind.
 bool StartProcess(const std::vector<std::string>& argv, const std::string& workDir, bool searchPath);
 
-// Collects started children that have ended.
+// Collects started children that have ended, and empties the descriptor
+// of ChildEndedFd.
 void CollectEndedProcesses();
+
+// A descriptor that turns readable when a child of this process ends, so
+// an event loop can collect it at once instead of at the next start; -1
+// when it can't be set up. Made on the first call, with a SIGCHLD handler
+// that passes the signal on to a handler installed before it.
+int ChildEndedFd();
 
 }  // namespace velmora

@@ -1,4 +1,5 @@
-#include "core/AppControl.h"
+#include <memory>
+
 #include "core/Log.h"
 #include "core/PrjOption.h"
 #include "core/Prompt.h"
@@ -24,6 +25,8 @@ void CopyFromCommon(std::vector<T>& list, const std::vector<T>& common, eEntryKi
   }
 }
 
+// The template is read beside the edit stage and takes its place only
+// whole, so one that fails leaves the stage being edited as it was.
 bool ReadTemplate(const std::string& templatePath) {
   cStage& stage = EditStage();
   if (templatePath.empty()) {
@@ -32,14 +35,10 @@ bool ReadTemplate(const std::string& templatePath) {
     return true;
   }
   std::string found;
-  return FindLatestVersion(found, templatePath, "stg4") && stage.LoadFile(found);
-}
-
-bool ReadPaletteFile(const std::string& path) {
-  DataFilePtr file = OpenRead(path);
-  if (!file) return false;
-  ReadPaletteLists(EditStage().Palette(), *file);
-  CloseData(file);
+  if (!FindLatestVersion(found, templatePath, "stg4")) return false;
+  auto read = std::make_unique<cStage>();
+  if (!read->LoadWholeFile(found)) return false;
+  stage.Exchange(*read);
   return true;
 }
 
@@ -63,8 +62,16 @@ eNewStageResult CreateNewStage(const std::string& templatePath, int paletteSourc
   if (paletteSource == kNewPaletteFromFile && !FileExists(palettePath)) {
     return FailWith(SysText("ステージパレットファイル %s が見つかりません！"), palettePath);
   }
+  // Read before anything changes: a file that fails leaves all as it was.
+  cStage paletteFile;
+  if (paletteSource == kNewPaletteFromFile && !ReadStagePaletteFile(palettePath, paletteFile)) {
+    return FailWith(StagePaletteLoadFailure(), palettePath);
+  }
   ClearHistory();
-  if (!ReadTemplate(templatePath)) return FailWith(SysText("ステージファイル %s が見つかりません！"), templatePath);
+  if (!ReadTemplate(templatePath)) {
+    RebuildHistory();
+    return FailWith(SysText("ステージファイル %s が見つかりません！"), templatePath);
+  }
   cStage& stage = EditStage();
   switch (paletteSource) {
     case kNewPaletteEmpty:
@@ -78,12 +85,7 @@ eNewStageResult CreateNewStage(const std::string& templatePath, int paletteSourc
       CopyFromCommon(stage.m_vecItemPlt, CommonPalette().m_vecItemPlt, kKindItem);
       break;
     case kNewPaletteFromFile:
-      if (!ReadPaletteFile(palettePath)) {
-        Prompt().CloseMessageWindow();
-        g_bNoSave = 1;
-        AppControl().DestroyMainWindow();
-        return eNewStageResult::Failed;
-      }
+      stage.ExchangePalette(paletteFile);
       break;
     default:
       break;

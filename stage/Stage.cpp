@@ -1,6 +1,7 @@
 #include "stage/Stage.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/Log.h"
 #include "core/PrjOption.h"
@@ -76,6 +77,19 @@ void cStage::InitDefault() {
   m_vecRankItem.assign(kRankItemCount, 1);
   SetSize(kStageViewWidth, kStageViewHeight, 0, 0);
   m_vecStageVar.assign(kStageVarCount, cStageVar());
+}
+
+void cStage::Exchange(cStage& other) {
+  const int32_t wheelDir = m_iWheelDir;
+  std::swap(*this, other);
+  other.m_iWheelDir = m_iWheelDir;
+  m_iWheelDir = wheelDir;
+}
+
+void cStage::ExchangePalette(cStage& other) {
+  m_vecBlockPlt.swap(other.m_vecBlockPlt);
+  m_vecCharaPlt.swap(other.m_vecCharaPlt);
+  m_vecItemPlt.swap(other.m_vecItemPlt);
 }
 
 int cStage::SetSize(int width, int height, int dirX, int dirY) {

@@ -116,6 +116,12 @@ class cStage : public cSaveData {
   int32_t m_iWheelDir = 0;
 
   void InitDefault();
+  // Trades contents with `other` without copying a cell, so a stage read
+  // beside the edit stage can take its place; the wheel direction belongs
+  // to the process and stays.
+  void Exchange(cStage& other);
+  // The same for the three palette lists alone.
+  void ExchangePalette(cStage& other);
   // dirX 1 keeps the right columns, dirY 1 the bottom rows. 0 for a size of 0.
   int SetSize(int width, int height, int dirX, int dirY);
   int CellIndex(int x, int y) const { return (y << m_nPitch_Shift) + x; }

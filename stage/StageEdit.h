@@ -11,6 +11,9 @@
 
 namespace velmora {
 
+class cStage;
+enum class eStageLoad;
+
 // The edit state beside the edit stage: which file it came from and what
 // may differ from disk.
 struct cStageEdit {
@@ -85,20 +88,32 @@ std::string CurrentStageExtension();
 // Puts the work-folder backup back over a stage file cut off by a crash.
 // Always 1: the load that follows reports what is wrong.
 int CheckStageFile(const std::string& path);
-int LoadStage(const std::string& path);
+// Reads `into` from a stage file by the loader's worker; a failed read is
+// reported, and `into` is then only fit to be thrown away.
+eStageLoad LoadStage(const std::string& path, cStage& into);
 // 1 saved or nothing to save, 0 cancelled or failed.
 int SaveStage(int overwrite);
+// Both first ask about unsaved work as leaving does; 0 when the author
+// stopped there or, for open, the file was not read (the stage stays).
 int OpenStage();
-void CloseStage();
+int CloseStage();
 // `base` names a stage by any version; `out` is its newest file.
 int FindLatestVersion(std::string& out, const std::string& base, const std::string& extension);
 int LoadStagePalette();
 int SaveStagePalette();
+// The three palette lists of a stage palette file take the place of the
+// stage's own only when the whole file was read; false leaves them alone.
+bool ReadStagePaletteFile(const std::string& path, cStage& stage);
+// The words for a stage palette file that could not be read: a format for
+// its path.
+const char* StagePaletteLoadFailure();
 bool SaveCommonPalette();
-// 0 keeps the stage window open.
+// The questions before unsaved work is left: on closing the window, and
+// before another stage is opened or the stage closed. 0 stops the leaving.
 int AskSaveBeforeExit();
 // At start-up: the stage edited last, read on this thread; a stage that
-// can't be read leaves an empty 32 x 32 one with no file.
+// can't be read whole leaves an empty 32 x 32 one with no file, as opening
+// it from the menu would refuse it.
 void OpenLastStage(const std::string& path);
 
 }  // namespace velmora

@@ -20,11 +20,17 @@ void LoadLayer(std::vector<T>& layer, cDataFile& file, std::vector<uint8_t>* che
   for (int32_t i = 0; i < count; ++i) {
     int32_t index = 0;
     if (!file.ReadInt32(index)) return;
-    T& cell = VecAt(layer, index);
+    // A placement outside the layer is damage in the file, not a fault of
+    // the editor: the load fails rather than the editor stopping.
+    if (index < 0 || static_cast<size_t>(index) >= layer.size()) {
+      file.MarkDamaged();
+      return;
+    }
+    T& cell = layer[static_cast<size_t>(index)];
     cell.Load(file);
     if (!checked) continue;
     CheckPaletteRefs(cell);
-    VecAt(*checked, index) = 1;
+    (*checked)[static_cast<size_t>(index)] = 1;
   }
 }
 

@@ -1,4 +1,5 @@
 #include <cstdio>
+#include <memory>
 
 #include "core/AppControl.h"
 #include "core/Log.h"
@@ -73,6 +74,18 @@ cFilePrompt PalettePrompt(const char* title) {
   request.defaultExt = ExtOf(eExt::StagePalette);
   return request;
 }
+
+// One question before unsaved work is left behind. Yes saves, No goes on
+// and Cancel stops; a Yes whose save failed or was cancelled stops too,
+// since going on would drop what the author meant to keep.
+bool SaveIfAnswered(const char* question, bool (*save)()) {
+  const eAnswer answer =
+      Prompt().Ask(nullptr, SysText("保存確認"), SysText(question), eButtons::YesNoCancel, eIcon::Question);
+  if (answer == eAnswer::Cancel) return false;
+  return answer == eAnswer::No || save();
+}
+
+bool SaveStageInPlace() { return SaveStage(1) != 0; }
 
 void ShowProgress(const char* caption, const char* text) { Prompt().ShowMessageWindow(nullptr, SysText(caption), SysText(text)); }
 
@@ -185,13 +198,11 @@ int CheckStageFile(const std::string& path) {
   return 1;
 }
 
-int LoadStage(const std::string& path) {
+eStageLoad LoadStage(const std::string& path, cStage& into) {
   CheckStageFile(path);
-  const eStageLoad result = StageLoader().Run(path);
-  if (result == eStageLoad::Loaded) return 1;
-  if (result == eStageLoad::Quit) return 0;
-  ErrorBox(SysText("ステージファイル %s の読み込みに失敗しました！"), path.c_str());
-  return 0;
+  const eStageLoad result = StageLoader().Run(path, into);
+  if (result == eStageLoad::Failed) ErrorBox(SysText("ステージファイル %s の読み込みに失敗しました！"), path.c_str());
+  return result;
 }
 
 int SaveStage(int overwrite) {
@@ -211,6 +222,7 @@ int SaveStage(int overwrite) {
 }
 
 int OpenStage() {
+  if (!AskSaveBeforeExit()) return 0;
   std::string path;
   if (!Prompt().OpenFile(nullptr, StageFilePrompt("読み込むファイルの選択", "stg4_", "*"), path)) {
     WarnIfFileMissing();
@@ -219,13 +231,19 @@ int OpenStage() {
   ShowProgress("ステージの読み込み", "ステージを読み込んでいます...");
   path = Relative(path);
   ClearHistory();
-  const int loaded = LoadStage(path);
+  // Read beside the edit stage, which a failed read leaves as it was.
+  auto loaded = std::make_unique<cStage>();
+  const eStageLoad result = LoadStage(path, *loaded);
   Prompt().CloseMessageWindow();
-  if (!loaded) {
-    g_bNoSave = 1;
-    AppControl().DestroyMainWindow();
+  if (result == eStageLoad::Quit) AppControl().DestroyMainWindow();
+  if (result != eStageLoad::Loaded) {
+    loaded.reset();
+    RebuildHistory();
     return 0;
   }
+  EditStage().Exchange(*loaded);
+  // The stage left behind goes before the new one's history is made.
+  loaded.reset();
   cStageEdit& edit = StageEdit();
   edit.m_bHasStage = 1;
   edit.m_strPath = path;
@@ -240,7 +258,7 @@ void OpenLastStage(const std::string& path) {
   edit.m_strPath.clear();
   if (path.empty()) return;
   CheckStageFile(path);
-  if (EditStage().LoadFile(path)) {
+  if (EditStage().LoadWholeFile(path)) {
     edit.m_bHasStage = 1;
     edit.m_strPath = path;
   } else {
@@ -250,13 +268,15 @@ void OpenLastStage(const std::string& path) {
   RebuildHistory();
 }
 
-void CloseStage() {
+int CloseStage() {
+  if (!AskSaveBeforeExit()) return 0;
   cStageEdit& edit = StageEdit();
   edit.m_bHasStage = 0;
   edit.m_strPath.clear();
   EditStage().InitDefault();
   edit.m_bStageChanged = 0;
   RebuildHistory();
+  return 1;
 }
 
 int FindLatestVersion(std::string& out, const std::string& base, const std::string& extension) {
@@ -266,15 +286,11 @@ int FindLatestVersion(std::string& out, const std::string& base, const std::stri
 int LoadStagePalette() {
   std::string path;
   if (!Prompt().OpenFile(nullptr, PalettePrompt("読み込むファイルの選択"), path)) return 0;
-  DataFilePtr file = OpenRead(path);
-  if (!file) {
-    g_bNoSave = 1;
-    AppControl().DestroyMainWindow();
+  cStage& stage = EditStage();
+  if (!ReadStagePaletteFile(path, stage)) {
+    ErrorBox(StagePaletteLoadFailure(), path.c_str());
     return 0;
   }
-  cStage& stage = EditStage();
-  ReadPaletteLists(stage.Palette(), *file);
-  CloseData(file);
   RefreshBlockFromStage(stage.m_vecBlockCell);
   RefreshCharaFromStage(stage.m_vecCharaCell);
   RefreshItemFromStage(stage.m_vecItemCell);
@@ -292,6 +308,32 @@ int SaveStagePalette() {
   return CloseData(file) ? 1 : 0;
 }
 
+// The three lists are read beside the stage's own and take their place
+// only when the whole file was read, so a file that fails leaves the
+// palette as it was.
+bool ReadStagePaletteFile(const std::string& path, cStage& stage) {
+  DataFilePtr file = OpenRead(path);
+  if (!file) return false;
+  cStage read;
+  {
+    // Entries inherit from the palette they are read into, as when read in place.
+    cStagePaletteScope scope(read);
+    ReadPaletteLists(read.Palette(), *file);
+  }
+  const bool whole = !file->Damaged() && !file->Ended() && !read.m_vecBlockPlt.empty() && !read.m_vecCharaPlt.empty() &&
+                     !read.m_vecItemPlt.empty();
+  CloseData(file);
+  if (whole) stage.ExchangePalette(read);
+  return whole;
+}
+
+// The persistence core's words for a file of a newer editor, else the
+// stage file's in kind.
+const char* StagePaletteLoadFailure() {
+  return SysText(g_bFileTooNew ? "%s の読み込みに失敗しました！\n実行ファイル(.exe)より上位のバージョンのファイルは使用できません。"
+                               : "ステージパレットファイル %s の読み込みに失敗しました！");
+}
+
 bool SaveCommonPalette() {
   if (!CommonPalette().SaveFile(PathOf(ePath::CommonPalette))) return false;
   StageEdit().m_bCommonChanged = 0;
@@ -299,19 +341,13 @@ bool SaveCommonPalette() {
 }
 
 int AskSaveBeforeExit() {
-  cStageEdit& edit = StageEdit();
-  const char* caption = SysText("保存確認");
-  if (edit.m_bHasStage && edit.m_bStageChanged) {
-    const eAnswer answer = Prompt().Ask(nullptr, caption, SysText("ステージが変更された可能性があります。\n保存しますか？"),
-                                        eButtons::YesNoCancel, eIcon::Question);
-    if (answer == eAnswer::Cancel) return 0;
-    if (answer == eAnswer::Yes && SaveStage(1)) edit.m_bStageChanged = 0;
+  const cStageEdit& edit = StageEdit();
+  if (edit.m_bHasStage && edit.m_bStageChanged &&
+      !SaveIfAnswered("ステージが変更された可能性があります。\n保存しますか？", SaveStageInPlace)) {
+    return 0;
   }
-  if (edit.m_bCommonChanged) {
-    const eAnswer answer = Prompt().Ask(nullptr, caption, SysText("コモンパレットが変更された可能性があります。\n保存しますか？"),
-                                        eButtons::YesNoCancel, eIcon::Question);
-    if (answer == eAnswer::Cancel) return 0;
-    if (answer == eAnswer::Yes) SaveCommonPalette();
+  if (edit.m_bCommonChanged && !SaveIfAnswered("コモンパレットが変更された可能性があります。\n保存しますか？", SaveCommonPalette)) {
+    return 0;
   }
   return 1;
 }

@@ -24,13 +24,14 @@ MessageDropper& Dropper() {
 
 void SetMessageDropper(MessageDropper dropper) { Dropper() = dropper ? std::move(dropper) : MessageDropper(DropNothing); }
 
-eStageLoad cStageLoader::Run(const std::string& path) {
+eStageLoad cStageLoader::Run(const std::string& path, cStage& target) {
   Stop();
   m_strPath = path;
+  m_pTarget = &target;
   m_bSucceeded = false;
   m_bDone = false;
   m_thread = std::thread([this] {
-    m_bSucceeded = EditStage().LoadFile(m_strPath) != 0;
+    m_bSucceeded = m_pTarget->LoadWholeFile(m_strPath) != 0;
     m_bDone = true;
   });
   do {

@@ -103,6 +103,7 @@ int TestPlay(int whole) {
     return 0;
   }
   TestPlayHost().ClearActiveFlag();
+  TestPlayHost().ShowTestPlayState();
   return 1;
 }
 
@@ -111,6 +112,7 @@ void OnTestPlayEnd() {
   if (!edit.m_strPath.empty()) TestPlayHost().AllocHistory();
   TestPlayHost().ActivateStageWindow();
   edit.m_bTestPlay = 0;
+  TestPlayHost().ShowTestPlayState();
 }
 
 void TakeGameMessages(cMessageReceiver& receiver) {

@@ -24,6 +24,8 @@ class cTestPlayHost {
   virtual void ActivateStageWindow() {}
   // Stops the idle drawing while the game has the screen.
   virtual void ClearActiveFlag() {}
+  // A test play began or ended: the windows say whether one runs.
+  virtual void ShowTestPlayState() {}
 };
 
 cTestPlayHost& TestPlayHost();

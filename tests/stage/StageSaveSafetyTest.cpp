@@ -92,7 +92,8 @@ TEST_F(cStageSaveSafetyTest, KillAtAnyMomentLeavesTheOldOrTheNewStageWhole) {
     ASSERT_TRUE(found == m_old || found == fresh) << "kill at moment " << moment << " left " << found.size() << " bytes";
   }
   EXPECT_GT(killedMidway, 0);
-  EXPECT_EQ(1, LoadStage(kStored));
+  cStage read;
+  EXPECT_EQ(eStageLoad::Loaded, LoadStage(kStored, read));
 }
 
 TEST_F(cStageSaveSafetyTest, MissingStageFileComesBackFromTheBackup) {
@@ -129,21 +130,22 @@ TEST_F(cStageSaveSafetyTest, WorkerLoadsWhileTheCallerDropsMessagesAndAQuitEndsT
     onCaller = onCaller && std::this_thread::get_id() == caller;
     return true;
   });
-  EditStage().InitDefault();
-  ASSERT_EQ(1, LoadStage(kStored));
-  EXPECT_EQ("old", EditStage().m_strName);
-  EXPECT_EQ(64, EditStage().m_nWidth);
+  cStage read;
+  ASSERT_EQ(eStageLoad::Loaded, LoadStage(kStored, read));
+  EXPECT_EQ("old", read.m_strName);
+  EXPECT_EQ(64, read.m_nWidth);
+  EXPECT_EQ("new", EditStage().m_strName) << "the worker reads beside the edit stage";
   EXPECT_GT(drops, 0);
   EXPECT_TRUE(onCaller);
 
   const size_t shown = m_prompt.Shown().size();
   SetMessageDropper([] { return false; });
-  EXPECT_EQ(0, LoadStage(kStored));
+  EXPECT_EQ(eStageLoad::Quit, LoadStage(kStored, read));
   EXPECT_FALSE(StageLoader().Running());
   EXPECT_EQ(shown, m_prompt.Shown().size());  // a quit is no read failure
 
   SetMessageDropper(nullptr);
-  EXPECT_EQ(0, LoadStage("data\\stg4\\gone.stg4_950"));
+  EXPECT_EQ(eStageLoad::Failed, LoadStage("data\\stg4\\gone.stg4_950", read));
   EXPECT_NE(std::string::npos, m_prompt.LastText().find("の読み込みに失敗しました"));
 }
 

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <poll.h>
-
 #include <cstdlib>
 #include <filesystem>
 
@@ -12,6 +10,7 @@
 #include "platform/TextCodec.h"
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
+#include "support/Children.h"
 #include "support/ScriptedPrompt.h"
 #include "support/TempProject.h"
 
@@ -21,6 +20,7 @@ namespace {
 using testing::cScriptedPrompt;
 using testing::cTempProject;
 using testing::ReadBytes;
+using testing::WaitReadable;
 
 const char* kStored = ".\\data\\stg4\\a.stg4_950";
 const char* kStageHost = "data/stg4/a.stg4_950";
@@ -44,6 +44,8 @@ struct cFakeHost : cTestPlayHost {
   void RedrawStageWindow() override { ++redrawn; }
   void ActivateStageWindow() override { ++activated; }
   void ClearActiveFlag() override { ++deactivated; }
+  void ShowTestPlayState() override { shownStates.push_back(StageEdit().m_bTestPlay); }
+  std::vector<int> shownStates;  // whether a test play ran, at each showing
 };
 
 void PlacePlayer(int x, int y) {
@@ -194,27 +196,25 @@ TEST_F(cTestPlayTest, SecondStartIsIgnoredWhileTheKeyRepeatsAndRefusedAfterwards
 // A channel of its own, so that no editor running beside the tests hears it.
 std::string TestChannelName() { return "Velmora_Editor.test." + std::to_string(::getpid()); }
 
-bool WaitReadable(int fd, int timeoutMs) {
-  pollfd watch{fd, POLLIN, 0};
-  return ::poll(&watch, 1, timeoutMs) == 1;
-}
-
 TEST_F(cTestPlayTest, OnlyTheEndMessageEndsTheTestPlay) {
   cMessageReceiver receiver;
   ASSERT_TRUE(receiver.Open(TestChannelName()));
   cMessageReceiver second;
   EXPECT_FALSE(second.Open(TestChannelName()));
   ASSERT_EQ(1, TestPlay(0));
+  EXPECT_EQ(std::vector<int>{1}, m_host.shownStates);
 
   ASSERT_TRUE(SendChannelMessage(TestChannelName(), 7));
   TakeGameMessages(receiver);
   EXPECT_EQ(1, StageEdit().m_bTestPlay);
   EXPECT_EQ(0, m_host.allocated);
+  EXPECT_EQ(std::vector<int>{1}, m_host.shownStates);
 
   ASSERT_TRUE(SendChannelMessage(TestChannelName(), kGameEndedMessage));
   TakeGameMessages(receiver);
   EXPECT_EQ(0, StageEdit().m_bTestPlay);
   EXPECT_EQ(1, m_host.allocated);
+  EXPECT_EQ((std::vector<int>{1, 0}), m_host.shownStates);
   EXPECT_FALSE(WaitReadable(receiver.Fd(), 0));
   EXPECT_FALSE(SendChannelMessage("Velmora_Editor.nobody", 0));
 }

@@ -29,10 +29,18 @@ TEST(SampleProjectTest, WritesAProjectWhoseFilesReadBack) {
   EXPECT_EQ(0, palette.m_vecCharaPlt[1].m_nControl);  // the player
   EXPECT_FALSE(palette.m_vecCharaPlt[2].m_vFlow.empty());
 
+  // Every stage, the template of new ones too, undoes as far back as a
+  // stage can.
+  for (const char* path : {"data\\stg4\\Default.stg4_950", "data\\stg4\\Stage1.stg4_950"}) {
+    cStage other;
+    ASSERT_EQ(1, other.LoadFile(path)) << path;
+    EXPECT_EQ(9, other.m_iUndoCount) << path;
+  }
   cStage stage;
   ASSERT_EQ(1, stage.LoadFile("data\\stg4\\Stage2.stg4_950"));
   EXPECT_EQ(80, stage.m_nWidth);
   EXPECT_TRUE(stage.HasPlayer());
+  EXPECT_EQ(9, stage.m_iUndoCount);
 
   // A stage's own palette reads as behaviour text too.
   std::string out, err;

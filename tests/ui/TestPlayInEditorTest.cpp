@@ -1,7 +1,9 @@
+#include <QAction>
+#include <QLabel>
+#include <QStatusBar>
 #include <QTest>
+#include <QToolBar>
 #include <gtest/gtest.h>
-
-#include <poll.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -15,11 +17,13 @@
 #include "platform/MessageChannel.h"
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
+#include "support/Children.h"
 
 namespace velmora::testing {
 namespace {
 
 constexpr int kTestPlayCommand = 40006;
+constexpr int kUndoButton = 40052;
 const char kStageHost[] = "data/stg4/Stage1.stg4_950";
 
 // The editor's own test play host, with a clock of the test's and a game
@@ -36,6 +40,7 @@ struct cClockedHost : cTestPlayHost {
   void RedrawStageWindow() override { editor.RedrawStageWindow(); }
   void ActivateStageWindow() override { editor.ActivateStageWindow(); }
   void ClearActiveFlag() override { editor.ClearActiveFlag(); }
+  void ShowTestPlayState() override { editor.ShowTestPlayState(); }
 
   cTestPlayHost& editor;
   uint32_t now = 100000;
@@ -62,6 +67,12 @@ class TestPlayInTheEditor : public cEditorOnSample {
       if (prompt.Shown()[i].caption != "ステージの保存") texts.push_back(prompt.Shown()[i].text);
     }
     return texts;
+  }
+  bool UndoButtonEnabled() {
+    for (const QAction* action : Stage().Window()->findChild<QToolBar*>()->actions()) {
+      if (action->data().toInt() == kUndoButton) return action->isEnabled();
+    }
+    return false;
   }
   bool StageSaved() const { return ReadBytes(kStageHost) != savedStage; }
   static bool HistoryBuilt() {
@@ -117,12 +128,23 @@ TEST_F(TestPlayInTheEditor, F5TwiceWithinASecondIsOneStartAndAgainLaterIsADouble
   EXPECT_TRUE(HistoryBuilt());
 }
 
-bool WaitReadable(int fd, int timeoutMs) {
-  pollfd watch{fd, POLLIN, 0};
-  return ::poll(&watch, 1, timeoutMs) == 1;
+// The texts of the stage window's status bar, part by part.
+QStringList StatusTexts(cStageWindow& stage) {
+  QStringList texts;
+  for (const QLabel* label : stage.Window()->findChild<QStatusBar*>()->findChildren<QLabel*>()) texts << label->text();
+  return texts;
 }
 
-TEST_F(TestPlayInTheEditor, TheStandinGamePlaysTheSavedStageAndTheEditorBuildsItsHistoryAnew) {
+bool FramedInPalette(cPaletteWindow& window, int index) {
+  // The selection frame's left edge, in the middle of the cell's height.
+  return window.Picture().pixel((index % cPaletteWindow::kColumns) * 32, (index / cPaletteWindow::kColumns) * 32 + 10) ==
+         qRgb(255, 255, 255);
+}
+
+// The game runs beside the editor, whose status bar says so; a brush
+// picked meanwhile shows in its palette at once, and when the game has
+// gone it leaves no process behind and the editor takes up its history.
+TEST_F(TestPlayInTheEditor, TheStandinGamePlaysTheSavedStageAndTheEditorComesBackCleanly) {
   // The editor comes up again with its own host and the game beside it.
   std::filesystem::copy_file(VELMORA_STANDIN_GAME, "velmora-standin-game");
   StartEditor();
@@ -137,16 +159,41 @@ TEST_F(TestPlayInTheEditor, TheStandinGamePlaysTheSavedStageAndTheEditorBuildsIt
   Stage().ScrollTo(0, 0);
   PickEntry({0, 0}, 1);
   Click(Stage(), QPoint(4 * 32 + 10, 2 * 32 + 10));
+  // The application settles in its active state, which the play then
+  // leaves alone: the stand-in game has no window to take the focus.
+  QTest::qWait(50);
   Command(Stage(), kTestPlayCommand);
   ASSERT_EQ(1, StageEdit().m_bTestPlay);
   EXPECT_FALSE(StageEdit().m_bStageChanged);
+  EXPECT_FALSE(app->IsActive()) << "the idle drawing stops while the game has the screen";
+  EXPECT_FALSE(UndoButtonEnabled()) << "nothing to undo while the stage is locked";
+  Stage().Repaint();
+  QTest::qWait(20);
+  EXPECT_EQ((QStringList{QString::fromUtf8("座標 (4,2)"), QString::fromUtf8("テストプレイ中です…")}), StatusTexts(Stage()));
+
+  // A pick comes a while after the start, when the idle work has stopped.
+  QTest::qWait(100);
+  constexpr int kPicked = 3;
+  cPaletteWindow& blocks = Palettes().Palette({0, 0});
+  ASSERT_FALSE(FramedInPalette(blocks, kPicked));
+  PickEntry({0, 0}, kPicked);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return FramedInPalette(blocks, kPicked); }, 2000))
+      << "the pick shows while the application is inactive";
+
+  // The game has sent its message; only the editor's own watch can have
+  // collected it before the message is taken.
   ASSERT_TRUE(WaitReadable(receiver.Fd(), 20000));
+  EXPECT_TRUE(QTest::qWaitFor([] { return ChildProcesses().empty(); }, 10000)) << "no defunct game is left";
   TakeGameMessages(receiver);
   ::unsetenv("VELMORA_EDITOR_CHANNEL");
 
   EXPECT_EQ(0, StageEdit().m_bTestPlay);
+  EXPECT_EQ(QString(), StatusTexts(Stage()).value(1));
+  EXPECT_EQ(kPicked, StageEdit().m_iPltIndex);
+  EXPECT_TRUE(FramedInPalette(blocks, kPicked));
   EXPECT_TRUE(HistoryBuilt());
   EXPECT_GT(EditStage().m_iUndoCount, 0);
+  EXPECT_FALSE(UndoButtonEnabled()) << "the new history has no step yet";
   const std::string report = ReadText("Report_StandinGame.txt");
   EXPECT_EQ(0u, report.find("stage " + StageEdit().m_strPath + "\n")) << report;
   const cStage& saved = EditStage();

@@ -19,6 +19,10 @@ void Place(std::vector<T>& cells, const std::vector<T>& palette, int index, int 
   cells[static_cast<size_t>(index)] = cell;
 }
 
+// The most levels a stage can have: new authors try the sample first, and
+// each of its stages costs a few megabytes of history at this depth.
+constexpr int kSampleUndoLevels = 9;
+
 struct cStagePlan {
   const char* path;
   const char* name;
@@ -38,6 +42,7 @@ bool WriteStage(const cStagePlan& plan) {
   stage.InitDefault();
   stage.SetSize(plan.width, 15, 0, 0);
   stage.m_strName = ToCp932(plan.name);
+  stage.m_iUndoCount = kSampleUndoLevels;
   const cPalette& palette = CommonPalette();
   for (int x = 0; x < plan.width; ++x) {
     const bool gap = plan.gapEvery && x % plan.gapEvery == plan.gapEvery - 1;

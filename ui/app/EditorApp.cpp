@@ -25,6 +25,7 @@
 #include "platform/HeapPolicy.h"
 #include "platform/InstanceLock.h"
 #include "platform/MessageChannel.h"
+#include "platform/Process.h"
 #include "platform/Screen.h"
 #include "platform/SystemInfo.h"
 #include "project/ExitSave.h"
@@ -163,6 +164,7 @@ bool cEditorApp::InitApp() {
   }
   if (!CreateStageWindow()) return false;
   ListenForGames();
+  CollectEndedChildren();
   if (RestoreSheetRate()) RunTimedBackup();
   m_pManager->SetSheetRate(m_sheetRate);
   ReportLine("Sheet Rate = (%lf,%lf)", m_sheetRate.x, m_sheetRate.y);
@@ -255,7 +257,25 @@ void cEditorApp::StartIdleTimer() {
       if (IdleStep() == 0) QApplication::quit();
     });
   }
-  if (m_bActive && !m_pIdleTimer->isActive()) m_pIdleTimer->start();
+  if (m_bActive) {
+    if (!m_pIdleTimer->isActive()) m_pIdleTimer->start();
+    return;
+  }
+  const cPaletteWindows* palettes = m_pStageWindow ? m_pStageWindow->Palettes() : nullptr;
+  if (palettes && palettes->RepaintWanted()) RepaintPalettesSoon();
+}
+
+// While the application is inactive the loop only waits, and the active
+// flag stays clear from the start of a test play until the application's
+// state changes, which it needn't: a brush picked meanwhile still shows at
+// once.
+void cEditorApp::RepaintPalettesSoon() {
+  if (m_bPaletteRepaintPending) return;
+  m_bPaletteRepaintPending = true;
+  QTimer::singleShot(0, m_pHost, [this] {
+    m_bPaletteRepaintPending = false;
+    if (m_pStageWindow && m_pStageWindow->Palettes()) m_pStageWindow->Palettes()->IdleRepaint();
+  });
 }
 
 bool cEditorApp::AnyWindowWantsIdle() const {
@@ -370,6 +390,15 @@ void cEditorApp::ListenForGames() {
   m_pGameNotifier = new QSocketNotifier(m_pGameMessages->Fd(), QSocketNotifier::Read, m_pHost);
   QObject::connect(m_pGameNotifier, &QSocketNotifier::activated, m_pHost,
                    [this] { TakeGameMessages(*m_pGameMessages); });
+}
+
+// A game that ends after its message, or without one, is collected as it
+// ends rather than left defunct until the next start.
+void cEditorApp::CollectEndedChildren() {
+  const int fd = ChildEndedFd();
+  if (fd < 0) return;
+  auto* notifier = new QSocketNotifier(fd, QSocketNotifier::Read, m_pHost);
+  QObject::connect(notifier, &QSocketNotifier::activated, m_pHost, [] { CollectEndedProcesses(); });
 }
 
 }  // namespace velmora

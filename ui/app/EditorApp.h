@@ -68,6 +68,8 @@ class cEditorApp : public cStageWindowHost {
   bool AskDoubleStart();
   void InstallStageHooks();
   void ListenForGames();
+  void CollectEndedChildren();
+  void RepaintPalettesSoon();
   void OpenLastEditedStage();
   void ReadSystemIni();
   bool StartSound();
@@ -98,6 +100,7 @@ class cEditorApp : public cStageWindowHost {
   bool m_bRestoreFocus = false;
   cWindowSetState m_windowSet;
   bool m_bRebuildPending = false;
+  bool m_bPaletteRepaintPending = false;
   int m_nCurrentMode = 0;  // 0 the stage editor, 1 the world map editor
   int m_nFrames = 0;
 };

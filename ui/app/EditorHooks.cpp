@@ -16,19 +16,36 @@ namespace {
 class cEditorTestPlayHost : public cTestPlayHost {
  public:
   explicit cEditorTestPlayHost(cEditorApp& app) : m_app(app) {}
+  // The undo buttons follow the history both ways: off while the game
+  // runs, back with the history after it.
+  void ClearHistory() override {
+    cTestPlayHost::ClearHistory();
+    UpdateStageWindow();
+  }
   void AllocHistory() override {
     cTestPlayHost::AllocHistory();
-    if (m_app.StageWindow()) m_app.StageWindow()->UpdateStates();
+    UpdateStageWindow();
   }
   void RedrawStageWindow() override {
     if (m_app.StageWindow()) m_app.StageWindow()->Repaint();
   }
+  // The active flag follows the application's state here too: when the
+  // game's window never took the focus, no change of it will come to set
+  // the flag again.
   void ActivateStageWindow() override {
     if (m_app.StageWindow() && m_app.StageWindow()->Window()) m_app.StageWindow()->Window()->activateWindow();
+    m_app.SetActive(QGuiApplication::applicationState() == Qt::ApplicationActive);
   }
   void ClearActiveFlag() override { m_app.ClearActiveFlag(); }
+  void ShowTestPlayState() override {
+    if (m_app.StageWindow()) m_app.StageWindow()->ShowTestPlayStatus();
+  }
 
  private:
+  void UpdateStageWindow() {
+    if (m_app.StageWindow()) m_app.StageWindow()->UpdateStates();
+  }
+
   cEditorApp& m_app;
 };
 

@@ -1,5 +1,7 @@
 #include "ui/palette/PaletteWindows.h"
 
+#include <algorithm>
+
 #include "core/EditConfig.h"
 #include "core/ProjectPaths.h"
 #include "stage/StageCommands.h"
@@ -98,6 +100,10 @@ void cPaletteWindows::Refresh() {
 
 void cPaletteWindows::IdleRepaint() {
   for (const cPaletteSide side : kRepaintOrder) Palette(side).Repaint();
+}
+
+bool cPaletteWindows::RepaintWanted() const {
+  return std::any_of(m_aPalette.begin(), m_aPalette.end(), [](const auto& window) { return window->WantsIdle(); });
 }
 
 }  // namespace velmora

@@ -34,6 +34,8 @@ class cPaletteWindows {
   // common blocks, stage characters, common characters, stage items,
   // common items.
   void IdleRepaint();
+  // Some window has a change that the next repaint is to show.
+  bool RepaintWanted() const;
 
   // The visibility settings of the common palettes, the stage palettes and
   // the group window; a toggle is saved at once and shown on `layer`.

@@ -35,6 +35,9 @@ constexpr int kMaxClientWidth = 640;
 constexpr int kMaxClientHeight = 480;
 constexpr int kStatusCoordinatePart = 0;
 constexpr int kStatusPartWidth = 255;
+// Beside the coordinates, which each repaint of the view writes anew.
+constexpr int kStatusTestPlayPart = 1;
+constexpr int kStatusTestPlayWidth = 0;
 constexpr int kToolImage = 16;
 
 const char* const kToolStrips[] = {"e_bmp\\ToolBar_Palette.bmp", "e_bmp\\ToolBar_TestPlay.bmp"};
@@ -54,7 +57,7 @@ cStageWindow::cStageWindow(cDialogManager& manager, QWidget* parent, cStageWindo
   SetLogName("stage");
   WantScrollBars();
   WantToolBar();
-  WantStatusBar({kStatusPartWidth});
+  WantStatusBar({kStatusPartWidth, kStatusTestPlayWidth});
   m_form.okCancel = false;
   InstallBuiltInHandlers();
 }
@@ -105,6 +108,7 @@ void cStageWindow::OnInitDialog() {
   cDialog::OnInitDialog();
   RefreshTitle();
   SetStatusText(kStatusCoordinatePart, "");
+  ShowTestPlayStatus();
   SetMenuBar(StageMenu());
   BuildToolBar();
   UpdateStates();
@@ -224,6 +228,10 @@ void cStageWindow::RefreshTitle() {
   if (IsOpen()) Window()->setWindowTitle(FromCp932(StageWindowTitle(StageEdit().m_strPath)));
 }
 
+void cStageWindow::ShowTestPlayStatus() {
+  SetStatusText(kStatusTestPlayPart, StageEdit().m_bTestPlay ? SysText("テストプレイ中です…") : "");
+}
+
 void cStageWindow::OnCommand(uint32_t wParam, intptr_t /*lParam*/) {
   const int id = CommandId(wParam);
   if (id == kIdCancel) return;  // Escape; only the close box closes this window
@@ -271,12 +279,14 @@ void cStageWindow::InstallBuiltInHandlers() {
     cNewStageDialog dialog(Manager(), Window());
     if (dialog.DoModal(kDisableOthers) == 1) AfterStageChange();
   };
+  // A stage that stays (the author stopped, or the file was not read)
+  // keeps this window; its history was made anew.
   m_handlers[A::Open] = [this] {
     if (OpenStage()) AfterStageChange();
+    else UpdateStates();
   };
   m_handlers[A::Close] = [this] {
-    CloseStage();
-    AfterStageChange();
+    if (CloseStage()) AfterStageChange();
   };
   m_handlers[A::Save] = [this] {
     SaveCommonPalette();

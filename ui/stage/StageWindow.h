@@ -54,6 +54,8 @@ class cStageWindow : public cDialog {
   // The stage logic changed the current layer.
   void LayerShown(int layer);
   void RefreshTitle();
+  // The status bar says whether a test play runs.
+  void ShowTestPlayStatus();
   void Repaint();
   int ScrollX() const;
   int ScrollY() const;

@@ -22,11 +22,13 @@ cGroupWindow::cGroupWindow(cDialogManager& manager, QWidget* parent, cWindowPlac
     : cDialog(manager, parent), m_pRect(&place), m_nextLayer(std::move(nextLayer)) {
   SetTitle(Ui("キャラのグループ情報"));
   SetLogName("group window");
+  SetWindowStyle(eWindowStyle::ToolWindow);
   m_form.okCancel = false;
 }
 
 void cGroupWindow::BuildClient(QWidget& client) {
   auto* grid = new QGridLayout(&client);
+  grid->setSizeConstraint(QLayout::SetFixedSize);
   grid->setSpacing(0);
   grid->setContentsMargins(2, 2, 2, 2);
   for (int group = 0; group < kGroupCount; ++group) {

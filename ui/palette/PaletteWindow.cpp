@@ -84,6 +84,7 @@ cPaletteWindow::cPaletteWindow(cDialogManager& manager, QWidget* parent, cPalett
     : cDialog(manager, parent), m_bStagePlt(side.stagePlt), m_iKind(side.kind), m_pRect(&place), m_links(links) {
   SetTitle(Ui(kTitles.at(side.stagePlt ? 1 : 0).at(static_cast<size_t>(side.kind))));
   SetLogName("DLG_PLT");
+  SetWindowStyle(eWindowStyle::ToolWindow);
   WantStatusBar({0});
   WantToolBar();
   WantScrollBars();

@@ -52,6 +52,7 @@ cWindowPlace& StagePlace() { return EditorConfig().m_aPlace[EditConfig::PlaceSta
 cStageWindow::cStageWindow(cDialogManager& manager, QWidget* parent, cStageWindowHost& host)
     : cDialog(manager, parent), m_host(host) {
   SetLogName("stage");
+  SetWindowStyle(eWindowStyle::MainWindow);
   WantScrollBars();
   WantToolBar();
   WantStatusBar({kStatusPartWidth});
@@ -63,7 +64,6 @@ cStageWindow::~cStageWindow() { StorePlace(); }
 
 bool cStageWindow::Open() {
   if (!Create(0, false)) return false;
-  Window()->setWindowFlags(Qt::Window | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
   PlaceWindow();
   Window()->show();
   OpenPalettes();

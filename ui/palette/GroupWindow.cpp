@@ -7,6 +7,7 @@
 #include "ui/framework/Commands.h"
 #include "ui/framework/Hook.h"
 #include "ui/framework/QtText.h"
+#include "ui/framework/WindowFrame.h"
 
 namespace velmora {
 namespace {
@@ -43,22 +44,18 @@ void cGroupWindow::BuildClient(QWidget& client) {
   }
 }
 
+// The window is as large as its boxes; only its place is kept.
 bool cGroupWindow::Open(const QRect& anchor) {
   if (!Create(0, false)) return false;
   QWidget* window = Window();
   window->adjustSize();
-  if (m_pRect->m_bStored) window->move(m_pRect->m_nX, m_pRect->m_nY);
-  else window->move(anchor.left(), anchor.bottom() + 1 + kGap);
+  if (m_pRect->m_bStored) MoveFrame(*window, QPoint(m_pRect->m_nX, m_pRect->m_nY));
+  else MoveFrame(*window, QPoint(anchor.left(), anchor.bottom() + 1 + kGap));
   return true;
 }
 
 void cGroupWindow::StorePlace() {
-  if (!Window()) return;
-  m_pRect->m_bStored = 1;
-  m_pRect->m_nX = Window()->x();
-  m_pRect->m_nY = Window()->y();
-  m_pRect->m_nWidth = Window()->width();
-  m_pRect->m_nHeight = Window()->height();
+  if (Window()) KeepPlace(*m_pRect, *Window());
 }
 
 void cGroupWindow::ShowGroups(const std::bitset<kGroupCount>& used) {

@@ -4,6 +4,7 @@
 #include "core/ProjectPaths.h"
 #include "stage/StageCommands.h"
 #include "stage/StageEdit.h"
+#include "ui/framework/WindowFrame.h"
 
 namespace velmora {
 namespace {
@@ -57,7 +58,7 @@ void cPaletteWindows::StorePlaces() {
 
 bool cPaletteWindows::Create(const QRect& stageFrame) {
   for (const cPaletteSide side : kCreationOrder) {
-    const QRect commonFrame = side.stagePlt ? Palette({0, side.kind}).Window()->frameGeometry() : QRect();
+    const QRect commonFrame = side.stagePlt ? FrameOf(*Palette({0, side.kind}).Window()) : QRect();
     if (!Palette(side).Open(stageFrame, commonFrame)) return false;
     if (side.stagePlt && side.kind == kCharaLayer && !m_pGroupWnd->Open(stageFrame)) return false;
   }

@@ -62,7 +62,8 @@ void ShowWindow(QWidget& window) {
   if (window.isVisible()) return;
   QWidget* active = QApplication::activeWindow();
   window.show();
-  if (window.testAttribute(Qt::WA_ShowWithoutActivating) && active && active != &window) active->activateWindow();
+  if (!window.testAttribute(Qt::WA_ShowWithoutActivating) || !active || active == &window) return;
+  if (active->isVisible()) active->activateWindow();
 }
 
 }  // namespace velmora

@@ -82,7 +82,8 @@ void cGroupWindow::OnCommand(uint32_t wParam, intptr_t lParam) {
 bool cGroupWindow::OnDialogMessage(QEvent& event) {
   if (event.type() != cHookKeyEvent::EventType()) return false;
   const auto& key = static_cast<const cHookKeyEvent&>(event);
-  if (key.Kind() != cHookKeyEvent::KeyDown || key.Key() != Qt::Key_Space) return false;
+  // The hook forwards Space as a key of its own, not as a plain key down.
+  if (key.Kind() == cHookKeyEvent::KeyUp || key.Key() != Qt::Key_Space) return false;
   if (m_nextLayer) m_nextLayer();
   return true;
 }

@@ -326,7 +326,8 @@ bool cPaletteWindow::OnDialogMessage(QEvent& event) {
   }
   if (event.type() != cHookKeyEvent::EventType()) return false;
   const auto& key = static_cast<const cHookKeyEvent&>(event);
-  if (key.Kind() != cHookKeyEvent::KeyDown || key.Key() != Qt::Key_Space) return false;
+  // The hook forwards Space as a key of its own, not as a plain key down.
+  if (key.Kind() == cHookKeyEvent::KeyUp || key.Key() != Qt::Key_Space) return false;
   if (m_links.nextLayer) m_links.nextLayer();
   return true;
 }

@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QTest>
@@ -124,6 +125,54 @@ TEST_F(EditorWindow, WheelScrollsAndTheStatusBarNamesTheCell) {
   EXPECT_EQ(Stage()->Cursor().x, 4);
   EXPECT_EQ(Stage()->Cursor().y, 1);
   EXPECT_EQ(StatusText(), QString::fromUtf8("座標 (4,1)"));
+}
+
+TEST_F(EditorWindow, AnEnlargedWindowShowsMoreCellsWithTheBarsAtItsEdges) {
+  Stage()->Window()->resize(1200, 900);
+  QApplication::processEvents();
+  const QRect client = Client()->geometry();
+  EXPECT_GT(client.width(), 1100);
+  EXPECT_GT(client.height(), 700);
+  Stage()->RenderView();
+  EXPECT_EQ(Stage()->View().Width(), client.width());
+  EXPECT_EQ(Stage()->View().Height(), client.height());
+  const QScrollBar* horz = Stage()->HorzBar()->Bar();
+  const QScrollBar* vert = Stage()->VertBar()->Bar();
+  EXPECT_EQ(client.width() / 32, horz->pageStep());
+  EXPECT_EQ(EditStage().m_nWidth - client.width() / 32, horz->maximum());
+  EXPECT_EQ(0, vert->maximum()) << "the whole height of the stage is in view";
+  EXPECT_EQ(QRect(client.left(), client.bottom() + 1, client.width(), horz->height()), horz->geometry());
+  EXPECT_EQ(QRect(client.right() + 1, client.top(), vert->width(), client.height()), vert->geometry());
+  // The centre cross marks the game's 640 x 480 screen from the view's top left.
+  constexpr cColourRef kCross = 0x2040FF;
+  const cPixelImage& view = Stage()->View().Image();
+  EXPECT_EQ(kCross, view.ColourAt(304, 100));
+  EXPECT_EQ(kCross, view.ColourAt(600, 256));
+  EXPECT_NE(kCross, view.ColourAt(304, 600));
+  EXPECT_NE(kCross, view.ColourAt(700, 256));
+}
+
+TEST_F(EditorWindow, ARestartBringsBackTheFrameAndCentresThePlayerInTheCellsItHolds) {
+  cStage& stage = EditStage();
+  const cCellPos player = stage.FindPlayer();
+  ASSERT_GE(player.x, 0);
+  std::swap(stage.m_vecCharaCell.at(static_cast<size_t>(stage.CellIndex(player.x, player.y))),
+            stage.m_vecCharaCell.at(static_cast<size_t>(stage.CellIndex(40, player.y))));
+  StageEdit().m_bStageChanged = 1;
+  Command(40005);
+  QWidget* window = Stage()->Window();
+  window->move(120, 90);
+  window->resize(900, 700);
+  QApplication::processEvents();
+  const QRect frame = window->frameGeometry();
+  const QSize client = Client()->size();
+
+  StartEditor();
+  window = Stage()->Window();
+  EXPECT_EQ(frame, window->frameGeometry());
+  EXPECT_EQ(client, Client()->size());
+  const int columns = client.width() / 32;
+  EXPECT_EQ(std::min(40 - columns / 2, EditStage().m_nWidth - columns), Stage()->ScrollX());
 }
 
 TEST_F(EditorWindow, ClosingTheStageRebuildsAnEmptyWindow) {

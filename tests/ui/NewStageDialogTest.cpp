@@ -1,3 +1,6 @@
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
 #include <gtest/gtest.h>
 
 #include "core/EditConfig.h"
@@ -66,6 +69,37 @@ TEST_F(NewStageDialogTest, EmptyTemplateMakesADefaultStageAndClosesWithOk) {
   EXPECT_FALSE(dialog.IsOpen());
   EXPECT_EQ(dialog.Result(), 1);
   EXPECT_TRUE(StageEdit().m_strPath.empty());
+}
+
+// Whether the edit shows `text` whole: with the caret behind its end, the
+// text isn't scrolled.
+bool ShowsWhole(QLineEdit* edit, const QString& text) {
+  edit->setText(text);
+  edit->end(false);
+  const QRect caret = edit->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+  return caret.center().x() >= edit->fontMetrics().horizontalAdvance(text);
+}
+
+TEST_F(NewStageDialogTest, PathFieldsShowWholePathsAndTheLongLabelWrapsWithinTheDialog) {
+  QWidget* window = dialog.Window();
+  QApplication::processEvents();
+  const QList<QLineEdit*> paths = window->findChildren<QLineEdit*>();
+  ASSERT_EQ(2, paths.size());
+  for (QLineEdit* path : paths) {
+    EXPECT_TRUE(ShowsWhole(path, QStringLiteral(".\\data\\stg4\\Default.stg4_950")));
+    EXPECT_TRUE(ShowsWhole(path, QString::fromUtf8(".\\data\\plt4\\森の奥の古城と地下水路.plt4")));
+    EXPECT_TRUE(ShowsWhole(path, QStringLiteral(".\\data\\stg4\\World3_Castle_Underground_B.stg4_950")));
+  }
+  const QString note = QString::fromUtf8(
+      "※実際に読み込まれるファイルは、最も新しいバージョン（同名ファイルの中で拡張子の最後の番号が最も大きいもの）になります。");
+  QLabel* label = nullptr;
+  for (QLabel* candidate : window->findChildren<QLabel*>()) {
+    if (candidate->text().endsWith(note)) label = candidate;
+  }
+  ASSERT_NE(nullptr, label);
+  EXPECT_LT(window->width(), label->fontMetrics().horizontalAdvance(note)) << "the label doesn't widen the dialog";
+  EXPECT_GE(label->height(), label->heightForWidth(label->width())) << "every line of it shows";
+  EXPECT_LE(label->geometry().right(), window->width());
 }
 
 }  // namespace

@@ -22,6 +22,7 @@
 #include "ui/framework/DialogManager.h"
 #include "ui/framework/DialogWindow.h"
 #include "ui/framework/Hook.h"
+#include "ui/framework/WindowFrame.h"
 #include "ui/palette/PaletteCommands.h"
 #include "ui/palette/PaletteWindows.h"
 
@@ -86,38 +87,84 @@ class PaletteWindowTest : public ::testing::Test {
 };
 
 TEST_F(PaletteWindowTest, WindowsStandRightOfTheStageWindowSizedToTheirLists) {
+  // The editor shows its stage window, and so knows the frames, before it
+  // places the palettes.
+  QWidget stageWindow;
+  stageWindow.setGeometry(50, 50, 656, 520);
+  stageWindow.show();
+  ASSERT_TRUE(WaitUntilShown(stageWindow));
+  const QRect stageFrame = FrameOf(stageWindow);
+  windows = std::make_unique<cPaletteWindows>(manager, nullptr, config, links);
+  ASSERT_TRUE(windows->Create(stageFrame));
   cPaletteWindow& common = CommonBlocks();
   EXPECT_EQ(QString::fromUtf8("[コモン]ブロックパレット"), common.Window()->windowTitle());
   EXPECT_EQ(QString::fromUtf8("[ステージ]アイテムパレット"), Windows().Palette({1, 2}).Window()->windowTitle());
   EXPECT_EQ(cPaletteWindow::kClientWidth, ClientOf(common)->width());
   EXPECT_EQ(3, common.Rows());
   EXPECT_EQ(64, ClientOf(common)->height());
-  EXPECT_EQ(kStageFrame.right() + 9, common.Window()->x());
-  EXPECT_EQ(kStageFrame.top() + 8, common.Window()->y());
-
   // The stage palette holds only its blank entry: one row, at least 32 dots.
   cPaletteWindow& stage = Windows().Palette(kStageBlocks);
   EXPECT_EQ(1, stage.Rows());
   EXPECT_EQ(32, ClientOf(stage)->height());
-  EXPECT_EQ(common.Window()->frameGeometry().bottom() + 9, stage.Window()->y());
-  EXPECT_EQ(common.Window()->x(), stage.Window()->x());
+
+  // Shown, no frame covers another's title.
+  Windows().ShowLayer(0);
+  ASSERT_TRUE(WaitUntilShown(*common.Window()));
+  ASSERT_TRUE(WaitUntilShown(*stage.Window()));
+  const QRect commonFrame = common.Window()->frameGeometry();
+  ASSERT_NE(commonFrame, common.Window()->geometry()) << "the platform draws no frame to test with";
+  EXPECT_EQ(stageFrame.right() + 9, commonFrame.left());
+  EXPECT_EQ(stageFrame.top() + 8, commonFrame.top());
+  EXPECT_EQ(commonFrame.bottom() + 9, stage.Window()->frameGeometry().top());
+  EXPECT_EQ(commonFrame.left(), stage.Window()->frameGeometry().left());
 }
 
-TEST_F(PaletteWindowTest, ASavedPlaceIsTakenAndKeptAgainOnDestruction) {
-  cWindowPlace& place = config.m_aPlace[1];
-  place.m_bStored = 1;
-  place.m_nX = 300;
-  place.m_nY = 200;
-  place.m_nHeight = 48;
-  EXPECT_EQ(QPoint(300, 200), CommonBlocks().Window()->pos());
-  EXPECT_EQ(48, ClientOf(CommonBlocks())->height());
-  CommonBlocks().Window()->move(320, 210);
+TEST_F(PaletteWindowTest, TheFrameIsKeptOnDestructionAndTakenAgain) {
+  QWidget* window = CommonBlocks().Window();
+  window->show();
+  ASSERT_TRUE(WaitUntilShown(*window));
+  // The author moves the window and shows one row more.
+  window->move(320, 210);
+  window->resize(window->width(), window->height() + 32);
+  EXPECT_EQ(96, ClientOf(CommonBlocks())->height());
+  const QRect frame = window->frameGeometry();
   windows.reset();
-  EXPECT_EQ(320, place.m_nX);
-  EXPECT_EQ(210, place.m_nY);
+  const cWindowPlace& place = config.m_aPlace[1];
+  EXPECT_EQ(frame, QRect(place.m_nX, place.m_nY, place.m_nWidth, place.m_nHeight));
   EditConfig saved;
   ASSERT_EQ(1, saved.LoadFile("e_data\\EditConfig.dat"));
-  EXPECT_EQ(320, saved.m_aPlace[1].m_nX);
+  EXPECT_EQ(frame.height(), saved.m_aPlace[1].m_nHeight);
+
+  window = CommonBlocks().Window();
+  window->show();
+  ASSERT_TRUE(WaitUntilShown(*window));
+  EXPECT_EQ(frame, window->frameGeometry());
+  EXPECT_EQ(96, ClientOf(CommonBlocks())->height());
+}
+
+TEST_F(PaletteWindowTest, ALongerWindowShowsMoreRowsUpToTheListsEnd) {
+  CommonPalette().m_vecBlockPlt = NumberedBlocks(40);
+  cPaletteWindow& palette = CommonBlocks();
+  QWidget* window = palette.Window();
+  window->show();
+  ASSERT_TRUE(WaitUntilShown(*window));
+  EXPECT_EQ(5, palette.Rows());
+  EXPECT_EQ(4 * 32, ClientOf(palette)->height());
+  window->resize(window->width(), window->height() + 20);
+  palette.Repaint();
+  EXPECT_EQ(4 * 32 + 20, ClientOf(palette)->height());
+  EXPECT_EQ(4 * 32 + 20, palette.Picture().height()) << "the part of the fifth row shows too";
+  EXPECT_EQ(4, palette.VertBar()->Bar()->pageStep());
+  // The scroll bar keeps to the client's right edge, the full height.
+  const QScrollBar* bar = palette.VertBar()->Bar();
+  EXPECT_EQ(ClientOf(palette)->geometry().right() + 1, bar->geometry().left());
+  EXPECT_EQ(ClientOf(palette)->height(), bar->height());
+  // Beyond the list's end the window grows no further, nor wider.
+  QApplication::processEvents();
+  const QSize before = window->size();
+  window->resize(before.width() + 100, before.height() + 400);
+  EXPECT_EQ(5 * 32, ClientOf(palette)->height());
+  EXPECT_EQ(before + QSize(0, 5 * 32 - (4 * 32 + 20)), window->size());
 }
 
 TEST_F(PaletteWindowTest, ALeftClickPicksTheEntryUnderTheMouse) {

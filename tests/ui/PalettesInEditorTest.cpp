@@ -1,3 +1,5 @@
+#include <QApplication>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -170,6 +172,40 @@ TEST_F(PalettesInTheEditor, TheWindowsOfTheCurrentLayerShowAndTheirSettingsToggl
   EXPECT_FALSE(Palettes().Palette(charas).Window()->isVisible());
   EXPECT_TRUE(Palettes().Palette({1, 1}).Window()->isVisible());
   EXPECT_FALSE(EditorConfig().m_aPlace[5].m_bVisible) << "the items' common window follows";
+}
+
+// Space as the author types it: to whatever has the focus, through the
+// keyboard hook, which hands it to the active window.
+void TypeSpace() {
+  QWidget* focus = QApplication::focusWidget();
+  ASSERT_NE(nullptr, focus);
+  QTest::keyClick(focus, Qt::Key_Space);
+  QTest::qWait(20);
+}
+
+TEST_F(PalettesInTheEditor, SpaceGoesRoundTheLayersAndTheStageWindowKeepsTheFocus) {
+  Command(Stage(), 40054);  // the block layer
+  QWidget* stage = Stage().Window();
+  stage->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(stage));
+  for (const int layer : {1, 2, 0}) {
+    TypeSpace();
+    EXPECT_EQ(layer, StageEdit().m_iLayer);
+    EXPECT_TRUE(Palettes().Palette({0, layer}).Window()->isVisible());
+    EXPECT_EQ(stage, QApplication::activeWindow()) << "after the switch to layer " << layer;
+  }
+
+  // Space in a palette hides that palette; the focus goes to the stage
+  // window, where the next Space is taken.
+  QWidget* blocks = Palettes().Palette(kCommonBlocks).Window();
+  blocks->activateWindow();
+  QTest::qWait(20);
+  ASSERT_EQ(blocks, QApplication::activeWindow());
+  TypeSpace();
+  EXPECT_EQ(1, StageEdit().m_iLayer);
+  EXPECT_EQ(stage, QApplication::activeWindow());
+  TypeSpace();
+  EXPECT_EQ(2, StageEdit().m_iLayer);
 }
 
 }  // namespace

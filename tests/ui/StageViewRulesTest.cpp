@@ -46,21 +46,25 @@ TEST(StageViewRules, ScrollBarsOfAStageThatFitsHaveNoRoom) {
   EXPECT_EQ(vert.page, 15);
 }
 
-TEST(StageViewRules, FirstViewCentresThePlayerWithinTheStage) {
+TEST(StageViewRules, FirstViewCentresThePlayerInTheCellsShownWithinTheStage) {
   cStage stage;
   stage.InitDefault();
   stage.SetSize(100, 50, 0, 0);
-  EXPECT_EQ(InitialScroll(stage).x, 0);  // no player
+  EXPECT_EQ(InitialScroll(stage, 20, 15).x, 0);  // no player
   cEdChara player;
   player.m_nGraphicNo = 1;
   player.m_nControl = 0;
   stage.m_vecCharaCell[stage.CellIndex(30, 20)] = player;
-  EXPECT_EQ(InitialScroll(stage).x, 20);
-  EXPECT_EQ(InitialScroll(stage).y, 13);
+  EXPECT_EQ(InitialScroll(stage, 20, 15).x, 20);
+  EXPECT_EQ(InitialScroll(stage, 20, 15).y, 13);
+  // A larger window keeps the player in its middle.
+  EXPECT_EQ(InitialScroll(stage, 49, 34).x, 6);
+  EXPECT_EQ(InitialScroll(stage, 49, 34).y, 3);
   stage.m_vecCharaCell[stage.CellIndex(30, 20)] = cEdChara();
   stage.m_vecCharaCell[stage.CellIndex(98, 49)] = player;
-  EXPECT_EQ(InitialScroll(stage).x, 80);
-  EXPECT_EQ(InitialScroll(stage).y, 35);
+  EXPECT_EQ(InitialScroll(stage, 20, 15).x, 80);
+  EXPECT_EQ(InitialScroll(stage, 20, 15).y, 35);
+  EXPECT_EQ(InitialScroll(stage, 120, 60).x, 0) << "a view wider than the stage starts at its left";
 }
 
 TEST(StageViewRules, CursorFrameFollowsTheModeAndTheDrag) {

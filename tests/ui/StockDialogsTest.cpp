@@ -8,6 +8,8 @@
 #include "ui/framework/FilePrompts.h"
 #include "ui/framework/QtPrompt.h"
 #include "ui/framework/StockDialogs.h"
+#include "ui/framework/WindowStyle.h"
+#include "ui/list/MoveDialog.h"
 
 namespace velmora::testing {
 namespace {
@@ -79,6 +81,60 @@ TEST(StockDialogs, PromptAnswersWithTheSafeButtonOnEscape) {
   EXPECT_EQ(prompt.Ask(nullptr, SysText("確認"), SysText("保存しますか？"), eButtons::YesNo, eIcon::Question),
             eAnswer::No);
   EXPECT_EQ(textShown, QString::fromUtf8("保存しますか？"));
+}
+
+// A small dialog asks the window manager for a title and a close box only,
+// is exactly as large as its content and shows its whole title.
+void ExpectSmallDialog(const QWidget* window) {
+  ASSERT_NE(window, nullptr);
+  const Qt::WindowFlags flags = window->windowFlags();
+  EXPECT_TRUE(flags & Qt::CustomizeWindowHint) << "without it the window manager offers every box";
+  EXPECT_TRUE(flags & Qt::WindowCloseButtonHint);
+  EXPECT_FALSE(flags & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
+  EXPECT_EQ(window->minimumSize(), window->maximumSize());
+  EXPECT_EQ(window->size(), window->minimumSize());
+  EXPECT_GE(window->width(), TitleFitWidth(window->windowTitle()));
+}
+
+TEST(SmallDialogs, PromptsBoxesAndTheMoveDialogOfferOnlyACloseBoxAndFitTheirContent) {
+  cDialogManager manager;
+  auto checkAndCancel = [](QWidget* modal) {
+    ExpectSmallDialog(modal);
+    QTest::keyClick(modal, Qt::Key_Escape);
+  };
+  int32_t value = 1;
+  WhenModal(checkAndCancel);
+  InputValue(nullptr, manager, value, 0, 9, SysText("データ数"));
+  std::string text;
+  WhenModal(checkAndCancel);
+  InputString(nullptr, manager, text, 10, false, SysText("ステージパレットファイルの名前"));
+  WhenModal(checkAndCancel);
+  cMoveRequest request;
+  cMoveDialog(manager, nullptr, request, 6, QPoint(40, 30)).DoModal(0);
+
+  cQtPrompt prompt(manager);
+  WhenModal([](QWidget* box) {
+    ASSERT_NE(box, nullptr);
+    EXPECT_FALSE(box->windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint));
+    EXPECT_TRUE(box->windowFlags() & Qt::CustomizeWindowHint);
+    QTest::keyClick(box, Qt::Key_Escape);
+  });
+  prompt.Ask(nullptr, SysText("保存確認"), SysText("保存しますか？"), eButtons::YesNoCancel, eIcon::Question);
+}
+
+TEST(SmallDialogs, ProgressWindowShowsItsWholeTitleAndAMarginAroundItsText) {
+  cDialogManager manager;
+  ShowMessageWindow(nullptr, manager, SysText("..."), SysText("ステージの新規作成（テンプレートから）"), false);
+  ASSERT_EQ(manager.Windows().size(), 1u);
+  QWidget* window = manager.Windows().front()->Window();
+  ExpectSmallDialog(window);
+  const QLabel* label = window->findChild<QLabel*>();
+  const QRect text = QRect(label->mapTo(window, QPoint(0, 0)), label->size());
+  EXPECT_GE(text.left(), 8);
+  EXPECT_GE(text.top(), 8);
+  EXPECT_GE(window->width() - 1 - text.right(), 8);
+  EXPECT_GE(window->height() - 1 - text.bottom(), 8);
+  CloseMessageWindow();
 }
 
 TEST(FilePrompts, FilterPairsBecomeQtFilters) {

@@ -34,7 +34,9 @@ QString FromRecord(const std::string& record) {
   return text;
 }
 
-cTextLimits LimitsOf(const cEditStrDesc& desc) {
+}  // namespace
+
+cTextLimits TextLimitsOf(const cEditStrDesc& desc) {
   cTextLimits limits;
   limits.byteLimit = desc.byteLimit > 0 ? desc.byteLimit : kDefaultBytes;
   limits.width = desc.width > 0 ? desc.width : kDefaultWidth;
@@ -43,14 +45,12 @@ cTextLimits LimitsOf(const cEditStrDesc& desc) {
   return limits;
 }
 
-}  // namespace
-
 cEditStr::cEditStr(cDialog& parent, QWidget* edit, const cEditStrDesc& desc)
     : cControl(eControlKind::EditStr, desc.id, parent, edit),
       m_pLine(dynamic_cast<cLineEdit*>(edit)),
       m_pPlain(dynamic_cast<cPlainEdit*>(edit)),
       m_field(desc.field),
-      m_limits(LimitsOf(desc)) {
+      m_limits(TextLimitsOf(desc)) {
   auto focusOut = [this] { SendCommand(kNoticeKillFocus); };
   if (m_pLine) {
     m_pLine->onFocusOut = focusOut;

@@ -10,6 +10,9 @@ namespace velmora {
 class cLineEdit;
 class cPlainEdit;
 
+// The limits a descriptor states, with the defaults for those it leaves 0.
+cTextLimits TextLimitsOf(const cEditStrDesc& desc);
+
 // A string edit bound to a CP932 field. A box with one line is a line edit,
 // a taller one a text area; in both, typing past the width reflows the
 // text instead of being refused.

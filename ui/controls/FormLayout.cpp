@@ -9,9 +9,12 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <cstring>
 
+#include "ui/controls/EditStr.h"
 #include "ui/controls/EditWidgets.h"
+#include "ui/controls/TextReflow.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/ItemMap.h"
 #include "ui/framework/QtText.h"
@@ -21,6 +24,35 @@ namespace {
 
 constexpr int kNumberWidth = 90;
 constexpr int kLineHeight = 18;
+// The label column holds labels up to this many full-width characters;
+// longer ones stand above their control and wrap to the form's width.
+constexpr int kLabelColumnChars = 16;
+constexpr char16_t kFullWidthSample = u'\u3042';  // あ
+
+// A label that wraps at the width the form gives it and never asks for
+// more, so a long explanation doesn't widen its dialog.
+class cWrappingLabel : public QLabel {
+ public:
+  cWrappingLabel(const QString& text, QWidget* parent) : QLabel(text, parent) { setWordWrap(true); }
+  QSize sizeHint() const override { return {minimumSizeHint().width(), QLabel::sizeHint().height()}; }
+};
+
+bool FitsLabelColumn(const QString& label, const QFontMetrics& metrics) {
+  const int column = metrics.horizontalAdvance(QString(kLabelColumnChars, QChar(kFullWidthSample)));
+  const QStringList lines = label.split(QLatin1Char('\n'));
+  return std::all_of(lines.begin(), lines.end(), [&](const QString& line) { return metrics.horizontalAdvance(line) <= column; });
+}
+
+// Wide enough for the characters the field shows at once; a field for a
+// path shows a long path whole. The edit's own hint is 17 'x' wide, with
+// its frame and margins around them.
+void SizeLineEdit(QLineEdit& edit, const cEditStrDesc& desc) {
+  const int chars = ShownChars(TextLimitsOf(desc));
+  if (chars == 0) return;
+  const QFontMetrics metrics(edit.font());
+  const int frame = edit.sizeHint().width() - metrics.horizontalAdvance(QLatin1Char('x')) * 17;
+  edit.setMinimumWidth(frame + metrics.averageCharWidth() * chars);
+}
 
 // Lines end in a stretch, so that narrow controls and their units stay
 // together at the left; later widgets go in before it.
@@ -42,7 +74,9 @@ class cWidgetMaker {
   }
   void operator()(const cEditStrDesc& d) {
     if (d.lineLimit == 1) {
-      Add(d.id, new cLineEdit(&m_parent), true);
+      auto* edit = new cLineEdit(&m_parent);
+      SizeLineEdit(*edit, d);
+      Add(d.id, edit, true);
       return;
     }
     auto* edit = new cPlainEdit(&m_parent);
@@ -87,21 +121,33 @@ class cFormBuilder {
   void AddRow(const cFormRow& row) {
     if (!m_pGrid || !SameGroup(row.group, m_pGroup)) StartGroup(row.group);
     if (!row.sameLine || !m_pLine) {
-      m_pLine = new QHBoxLayout;
-      m_pLine->addStretch(0);
-      const int r = m_pGrid->rowCount();
-      if (row.label) {
-        m_pGrid->addWidget(new QLabel(Ui(row.label), &m_client), r, 0);
-        m_pGrid->addLayout(m_pLine, r, 1);
-      } else {
-        m_pGrid->addLayout(m_pLine, r, 0, 1, 2);
-      }
+      StartLine(row.label);
     } else if (row.label) {
       Append(*m_pLine, new QLabel(Ui(row.label), &m_client), false);
     }
     cWidgetMaker maker(m_client, *m_pLine, m_items);
     std::visit(maker, row.control);
     if (row.suffix) Append(*m_pLine, new QLabel(Ui(row.suffix), &m_client), false);
+  }
+
+  // A line of controls, with its label in the left column, or above it
+  // across the form when the label is too long for the column.
+  void StartLine(const char* label) {
+    m_pLine = new QHBoxLayout;
+    m_pLine->addStretch(0);
+    const int r = m_pGrid->rowCount();
+    if (!label) {
+      m_pGrid->addLayout(m_pLine, r, 0, 1, 2);
+      return;
+    }
+    const QString text = Ui(label);
+    if (FitsLabelColumn(text, m_client.fontMetrics())) {
+      m_pGrid->addWidget(new QLabel(text, &m_client), r, 0);
+      m_pGrid->addLayout(m_pLine, r, 1);
+      return;
+    }
+    m_pGrid->addWidget(new cWrappingLabel(text, &m_client), r, 0, 1, 2);
+    m_pGrid->addLayout(m_pLine, r + 1, 0, 1, 2);
   }
 
   void AddOkCancel() {

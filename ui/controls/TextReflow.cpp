@@ -56,6 +56,14 @@ void CutToBytes(std::string& text, size_t limit, int& caret) {
 
 }  // namespace
 
+// Records give a path 260 bytes, less its end, and a path field no fewer.
+constexpr int kPathBytes = 256;
+// A path of the stage or palette folders with a name of a fair length:
+// ".\\data\\stg4\\Default.stg4_950" and longer ones.
+constexpr int kPathChars = 48;
+
+int ShownChars(const cTextLimits& limits) { return limits.byteLimit >= kPathBytes ? kPathChars : 0; }
+
 int LineWidth(const std::string& line, bool countChars) {
   if (!countChars) return static_cast<int>(line.size());
   int width = 0;

@@ -16,6 +16,11 @@ struct cTextLimits {
 // counts as one character.
 int LineWidth(const std::string& line, bool countChars);
 
+// How many characters a one-line box shows at once. A box with room for a
+// path is wide enough for a long path of a project; others keep the
+// standard width of an edit (0).
+int ShownChars(const cTextLimits& limits);
+
 // Typing into a limited box reflows rather than refuses: an over-wide line
 // is broken where it stops fitting and its rest flows on to the next line;
 // lines beyond the limit are cut off, and the text is cut at the byte

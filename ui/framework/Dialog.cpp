@@ -55,6 +55,9 @@ void cDialog::BuildWindow(QWidget* parent, bool asPage) {
   m_pWindow = new cDialogWindow(*this, parent, asPage);
   m_pWindow->setProperty("DLG_CLASS", QVariant::fromValue(reinterpret_cast<quintptr>(this)));
   if (!m_title.isEmpty()) m_pWindow->setWindowTitle(m_title);
+  if (!asPage) ApplyWindowStyle(*m_pWindow, m_style);
+  // A small dialog is as wide as its title needs, whatever its content.
+  if (!asPage && m_style == eWindowStyle::SmallDialog) m_pWindow->Client()->setMinimumWidth(TitleFitWidth(m_title));
   BuildClient(*m_pWindow->Client());
   if (m_bWantToolBar) m_pWindow->ToolBar();
   if (m_bWantStatusBar) {
@@ -165,6 +168,9 @@ void cDialog::InitBase() {
     auto* vert = new QScrollBar(Qt::Vertical, m_pWindow);
     horz->setFocusPolicy(Qt::NoFocus);
     vert->setFocusPolicy(Qt::NoFocus);
+    // The bars run along the drawing area, however short it is.
+    horz->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    vert->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Ignored);
     body->addWidget(horz, 1, 0);
     body->addWidget(vert, 0, 1);
     m_pWindow->Items().Set(kIdHorzScroll, horz);

@@ -11,6 +11,7 @@
 #include "ui/framework/Accelerators.h"
 #include "ui/framework/MouseState.h"
 #include "ui/framework/WindowParts.h"
+#include "ui/framework/WindowStyle.h"
 
 class QEvent;
 class QMouseEvent;
@@ -158,6 +159,8 @@ class cDialog {
   virtual void BuildClient(QWidget& client);
 
   void SetTitle(const QString& title) { m_title = title; }
+  // A small dialog unless the constructor says otherwise.
+  void SetWindowStyle(eWindowStyle style) { m_style = style; }
   // Chrome that the window wants; set in the constructor.
   void WantScrollBars() { m_bWantScrollBars = true; }
   void WantToolBar() { m_bWantToolBar = true; }
@@ -188,6 +191,7 @@ class cDialog {
   int m_nWindowKind = kStandAlone;
   cSheet* m_pSheet = nullptr;
   QString m_title;
+  eWindowStyle m_style = eWindowStyle::SmallDialog;
   const char* m_logName = "dialog";
 
   cMouseState m_mouse;

@@ -72,14 +72,28 @@ QStatusBar* cDialogWindow::StatusBar() {
   if (!m_pStatusBar) {
     m_pStatusBar = new QStatusBar(this);
     m_pStatusBar->setSizeGripEnabled(false);
+    m_pStatusBar->setSizePolicy(m_pStatusBar->sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
     layout()->addWidget(m_pStatusBar);
   }
   return m_pStatusBar;
 }
 
 bool cDialogWindow::event(QEvent* event) {
+  if (event->type() == QEvent::LayoutRequest) KeepBarsToClient();
   if (m_pDialog && m_pDialog->HandleEvent(*event)) return true;
   return QDialog::event(event);
+}
+
+// Scroll bars and the status bar stretch, and would let the window grow
+// past its drawing area, leaving the area adrift in an empty window: the
+// area's limits are theirs too.
+void cDialogWindow::KeepBarsToClient() {
+  const QSize limit = m_pClient->maximumSize();
+  QLayoutItem* right = m_pBody->itemAtPosition(0, 1);
+  if (right && right->widget()) right->widget()->setMaximumHeight(limit.height());
+  QLayoutItem* below = m_pBody->itemAtPosition(1, 0);
+  if (below && below->widget()) below->widget()->setMaximumWidth(limit.width());
+  if (m_pStatusBar) m_pStatusBar->setMaximumWidth(m_pBody->maximumSize().width());
 }
 
 void cDialogWindow::reject() {

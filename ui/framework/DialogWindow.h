@@ -58,6 +58,8 @@ class cDialogWindow : public QDialog {
   void reject() override;
 
  private:
+  void KeepBarsToClient();
+
   cDialog* m_pDialog;
   cClientArea* m_pClient;
   QGridLayout* m_pBody;

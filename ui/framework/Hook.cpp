@@ -44,9 +44,12 @@ QEvent::Type cHookKeyEvent::EventType() {
   return type;
 }
 
+// Like a system hook, it sees keys before the accelerators of the dialog
+// manager: installing again puts it back in front of filters that came
+// after it.
 void cHook::Install() {
-  if (g_hook || !qApp) return;
-  g_hook = new cHook;
+  if (!qApp) return;
+  if (!g_hook) g_hook = new cHook;
   qApp->installEventFilter(g_hook);
 }
 

@@ -6,6 +6,7 @@
 #include "ui/framework/FilePrompts.h"
 #include "ui/framework/QtText.h"
 #include "ui/framework/StockDialogs.h"
+#include "ui/framework/WindowStyle.h"
 
 namespace velmora {
 namespace {
@@ -52,7 +53,8 @@ eAnswer AnswerOf(int button) {
 eAnswer cQtPrompt::Ask(OwnerWindow owner, const std::string& caption, const std::string& text, eButtons buttons,
                        eIcon icon) {
   const cButtonSet& set = kButtonSets[static_cast<int>(buttons)];
-  QMessageBox box(IconOf(icon), FromCp932(caption), FromCp932(text), set.standard, WidgetOf(owner));
+  QMessageBox box(IconOf(icon), FromCp932(caption), FromCp932(text), set.standard, WidgetOf(owner),
+                  WindowFlagsOf(eWindowStyle::SmallDialog));
   box.setEscapeButton(set.safe);
   return AnswerOf(box.exec());
 }

@@ -5,6 +5,7 @@
 
 #include "ui/framework/Dialog.h"
 #include "ui/framework/QtText.h"
+#include "ui/framework/WindowFrame.h"
 
 namespace velmora {
 namespace {
@@ -12,6 +13,7 @@ namespace {
 constexpr int kIdInput = 1003;
 constexpr int kIdInputSpin = 1011;
 constexpr int kIdMessage = 1017;
+constexpr int kShowLimitMs = 500;
 
 // A caption replaces the dialog's own title when it is given.
 QString Title(const std::string& caption, const char* fallback) {
@@ -99,8 +101,9 @@ void ShowMessageWindow(QWidget* parent, cDialogManager& manager, const std::stri
     QApplication::setOverrideCursor(Qt::WaitCursor);
     g_waitCursor = true;
   }
-  // The job runs on this thread right after; the window must be on screen first.
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  // The job runs on this thread right after; the window must be on screen
+  // and painted first, which takes the window manager a moment.
+  if (g_messageWindow->Window()) WaitUntilShown(*g_messageWindow->Window(), kShowLimitMs);
 }
 
 void CloseMessageWindow() {

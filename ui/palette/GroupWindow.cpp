@@ -7,6 +7,7 @@
 #include "ui/framework/Commands.h"
 #include "ui/framework/Hook.h"
 #include "ui/framework/QtText.h"
+#include "ui/framework/WindowFrame.h"
 
 namespace velmora {
 namespace {
@@ -22,11 +23,13 @@ cGroupWindow::cGroupWindow(cDialogManager& manager, QWidget* parent, cWindowPlac
     : cDialog(manager, parent), m_pRect(&place), m_nextLayer(std::move(nextLayer)) {
   SetTitle(Ui("キャラのグループ情報"));
   SetLogName("group window");
+  SetWindowStyle(eWindowStyle::ToolWindow);
   m_form.okCancel = false;
 }
 
 void cGroupWindow::BuildClient(QWidget& client) {
   auto* grid = new QGridLayout(&client);
+  grid->setSizeConstraint(QLayout::SetFixedSize);
   grid->setSpacing(0);
   grid->setContentsMargins(2, 2, 2, 2);
   for (int group = 0; group < kGroupCount; ++group) {
@@ -41,22 +44,18 @@ void cGroupWindow::BuildClient(QWidget& client) {
   }
 }
 
+// The window is as large as its boxes; only its place is kept.
 bool cGroupWindow::Open(const QRect& anchor) {
   if (!Create(0, false)) return false;
   QWidget* window = Window();
   window->adjustSize();
-  if (m_pRect->m_bStored) window->move(m_pRect->m_nX, m_pRect->m_nY);
-  else window->move(anchor.left(), anchor.bottom() + 1 + kGap);
+  if (m_pRect->m_bStored) MoveFrame(*window, QPoint(m_pRect->m_nX, m_pRect->m_nY));
+  else MoveFrame(*window, QPoint(anchor.left(), anchor.bottom() + 1 + kGap));
   return true;
 }
 
 void cGroupWindow::StorePlace() {
-  if (!Window()) return;
-  m_pRect->m_bStored = 1;
-  m_pRect->m_nX = Window()->x();
-  m_pRect->m_nY = Window()->y();
-  m_pRect->m_nWidth = Window()->width();
-  m_pRect->m_nHeight = Window()->height();
+  if (Window()) KeepPlace(*m_pRect, *Window());
 }
 
 void cGroupWindow::ShowGroups(const std::bitset<kGroupCount>& used) {
@@ -83,7 +82,8 @@ void cGroupWindow::OnCommand(uint32_t wParam, intptr_t lParam) {
 bool cGroupWindow::OnDialogMessage(QEvent& event) {
   if (event.type() != cHookKeyEvent::EventType()) return false;
   const auto& key = static_cast<const cHookKeyEvent&>(event);
-  if (key.Kind() != cHookKeyEvent::KeyDown || key.Key() != Qt::Key_Space) return false;
+  // The hook forwards Space as a key of its own, not as a plain key down.
+  if (key.Kind() == cHookKeyEvent::KeyUp || key.Key() != Qt::Key_Space) return false;
   if (m_nextLayer) m_nextLayer();
   return true;
 }

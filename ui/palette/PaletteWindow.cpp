@@ -24,6 +24,7 @@
 #include "ui/framework/IdleWake.h"
 #include "ui/framework/QtText.h"
 #include "ui/framework/StockDialogs.h"
+#include "ui/framework/WindowFrame.h"
 #include "ui/list/MoveDialog.h"
 #include "ui/palette/PaletteCommands.h"
 #include "ui/palette/SurfaceImage.h"
@@ -33,7 +34,6 @@
 namespace velmora {
 namespace {
 
-constexpr int kMaxPaintRows = 30;
 constexpr int kGap = 8;
 constexpr cColourRef kFrameColour = Rgb(255, 255, 255);
 
@@ -84,6 +84,7 @@ cPaletteWindow::cPaletteWindow(cDialogManager& manager, QWidget* parent, cPalett
     : cDialog(manager, parent), m_bStagePlt(side.stagePlt), m_iKind(side.kind), m_pRect(&place), m_links(links) {
   SetTitle(Ui(kTitles.at(side.stagePlt ? 1 : 0).at(static_cast<size_t>(side.kind))));
   SetLogName("DLG_PLT");
+  SetWindowStyle(eWindowStyle::ToolWindow);
   WantStatusBar({0});
   WantToolBar();
   WantScrollBars();
@@ -137,49 +138,48 @@ int cPaletteWindow::ClientHeight() const {
   return Window() ? Window()->findChild<cClientArea*>()->height() : 0;
 }
 
-int cPaletteWindow::MaxClientHeight(int windowTop) const {
+// The list's rows, and no more than the work area holds below the frame's
+// top.
+int cPaletteWindow::MaxClientHeight(int frameTop) const {
   const QWidget* client = Window()->findChild<cClientArea*>();
   const int above = client->mapTo(Window(), QPoint(0, 0)).y();
   const int below = Window()->height() - above - client->height();
-  const int room = WorkArea().bottom() + 1 - windowTop - above - below;
-  return std::clamp(std::min(Rows() * kCell, room), kMinClientHeight, kMaxClientHeight);
+  const QMargins frame = FrameMargins(*Window());
+  const int room = WorkArea().bottom() + 1 - frameTop - frame.top() - frame.bottom() - above - below;
+  return std::max(std::min(Rows() * kCell, room), kMinClientHeight);
 }
 
 void cPaletteWindow::PlaceWindow(const QRect& stageFrame, const QRect& commonFrame) {
   QWidget* window = Window();
   cClientArea* client = window->findChild<cClientArea*>();
-  int x = stageFrame.right() + 1 + kGap;
-  int y = m_bStagePlt ? commonFrame.bottom() + 1 + kGap : stageFrame.top() + kGap;
-  int height = (Rows() - 1) * kCell;
-  if (m_pRect->m_bStored) {
-    x = m_pRect->m_nX;
-    y = m_pRect->m_nY;
-    height = m_pRect->m_nHeight;
-  }
-  if (y < WorkArea().top()) y = kGap;
-  window->move(x, y);
-  // The frame is fitted around a client of the wanted height, which the
-  // author may then change between the limits.
+  // The bars are laid out around a client of the least height first, so
+  // that the room left for the client is known.
   client->setFixedHeight(kMinClientHeight);
   window->adjustSize();
-  client->setFixedHeight(std::clamp(height, kMinClientHeight, MaxClientHeight(y)));
+  const QPoint place(stageFrame.right() + 1 + kGap, m_bStagePlt ? commonFrame.bottom() + 1 + kGap : stageFrame.top() + kGap);
+  MoveFrame(*window, place);
+  client->setFixedHeight(std::clamp((Rows() - 1) * kCell, kMinClientHeight, MaxClientHeight(place.y())));
   window->adjustSize();
+  // From here the author sizes the window, and the client follows it.
   client->setMinimumHeight(kMinClientHeight);
-  client->setMaximumHeight(MaxClientHeight(y));
+  UpdateHeightLimit();
+  if (m_pRect->m_bStored) PlaceFrame(*window, FrameOfPlace(*m_pRect));
+  if (window->y() < WorkArea().top()) MoveFrame(*window, QPoint(window->x(), kGap));
   RebuildScrollBar();
 }
 
-void cPaletteWindow::StorePlace() {
+void cPaletteWindow::UpdateHeightLimit() {
   if (!Window()) return;
-  m_pRect->m_bStored = 1;
-  m_pRect->m_nX = Window()->x();
-  m_pRect->m_nY = Window()->y();
-  m_pRect->m_nWidth = kClientWidth;
-  m_pRect->m_nHeight = ClientHeight();
+  Window()->findChild<cClientArea*>()->setMaximumHeight(MaxClientHeight(FrameOf(*Window()).top()));
+}
+
+void cPaletteWindow::StorePlace() {
+  if (Window()) KeepPlace(*m_pRect, *Window());
 }
 
 void cPaletteWindow::RebuildScrollBar() {
   if (!VertBar()) return;
+  UpdateHeightLimit();
   const int page = std::max(ClientHeight() / kCell, 1);
   const int last = std::max(Rows() - page, 0);
   // Rows left empty at the bottom by a resize or a shorter list scroll in.
@@ -239,7 +239,8 @@ void cPaletteWindow::Render() {
 
 void cPaletteWindow::DrawEntries() {
   const int count = PaletteCount(Side());
-  for (int row = 0; row < kMaxPaintRows; ++row) {
+  const int rows = (m_surface.Height() + kCell - 1) / kCell;
+  for (int row = 0; row < rows; ++row) {
     for (int column = 0; column < kColumns; ++column) {
       const int index = column + (row + m_iTopRow) * kColumns;
       if (index >= count) return;
@@ -325,7 +326,8 @@ bool cPaletteWindow::OnDialogMessage(QEvent& event) {
   }
   if (event.type() != cHookKeyEvent::EventType()) return false;
   const auto& key = static_cast<const cHookKeyEvent&>(event);
-  if (key.Kind() != cHookKeyEvent::KeyDown || key.Key() != Qt::Key_Space) return false;
+  // The hook forwards Space as a key of its own, not as a plain key down.
+  if (key.Kind() == cHookKeyEvent::KeyUp || key.Key() != Qt::Key_Space) return false;
   if (m_links.nextLayer) m_links.nextLayer();
   return true;
 }

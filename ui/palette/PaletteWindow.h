@@ -31,14 +31,13 @@ class cPaletteWindow : public cDialog {
   static constexpr int kCell = 32;
   static constexpr int kClientWidth = kColumns * kCell;
   static constexpr int kMinClientHeight = 32;
-  static constexpr int kMaxClientHeight = 960;
 
   cPaletteWindow(cDialogManager& manager, QWidget* parent, cPaletteSide side, cWindowPlace& place,
                  const cPaletteLinks& links);
 
   // Makes the window, hidden, at its saved place or right of the stage
   // window: a common palette level with its top, a stage palette below the
-  // common palette window of its layer.
+  // common palette window of its layer. Places are frames.
   bool Open(const QRect& stageFrame, const QRect& commonFrame);
   void StorePlace();
 
@@ -84,7 +83,8 @@ class cPaletteWindow : public cDialog {
   void BuildToolBar();
   void PlaceWindow(const QRect& stageFrame, const QRect& commonFrame);
   int ClientHeight() const;
-  int MaxClientHeight(int windowTop) const;
+  int MaxClientHeight(int frameTop) const;
+  void UpdateHeightLimit();
   void Render();
   void DrawEntries();
   void DrawFrames();

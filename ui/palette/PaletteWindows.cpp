@@ -1,11 +1,14 @@
 #include "ui/palette/PaletteWindows.h"
 
+#include <QApplication>
 #include <algorithm>
 
 #include "core/EditConfig.h"
 #include "core/ProjectPaths.h"
 #include "stage/StageCommands.h"
 #include "stage/StageEdit.h"
+#include "ui/framework/WindowFrame.h"
+#include "ui/framework/WindowStyle.h"
 
 namespace velmora {
 namespace {
@@ -26,14 +29,16 @@ constexpr cPaletteSide kCreationOrder[] = {{0, 0}, {1, 0}, {0, 1}, {1, 1}, {0, 2
 constexpr cPaletteSide kRepaintOrder[] = {{1, 0}, {0, 0}, {1, 1}, {0, 1}, {1, 2}, {0, 2}};
 
 void ShowIf(QWidget* window, bool show) {
-  if (window) window->setVisible(show);
+  if (!window) return;
+  if (show) ShowWindow(*window);
+  else window->hide();
 }
 
 }  // namespace
 
 cPaletteWindows::cPaletteWindows(cDialogManager& manager, QWidget* stageWindow, EditConfig& config,
                                  const cPaletteLinks& links)
-    : m_config(config), m_links(links) {
+    : m_pStageWindow(stageWindow), m_config(config), m_links(links) {
   cPaletteLinks own = links;
   // A stage window that repaints refreshes these windows with it.
   own.paletteChanged = [this] {
@@ -59,7 +64,7 @@ void cPaletteWindows::StorePlaces() {
 
 bool cPaletteWindows::Create(const QRect& stageFrame) {
   for (const cPaletteSide side : kCreationOrder) {
-    const QRect commonFrame = side.stagePlt ? Palette({0, side.kind}).Window()->frameGeometry() : QRect();
+    const QRect commonFrame = side.stagePlt ? FrameOf(*Palette({0, side.kind}).Window()) : QRect();
     if (!Palette(side).Open(stageFrame, commonFrame)) return false;
     if (side.stagePlt && side.kind == kCharaLayer && !m_pGroupWnd->Open(stageFrame)) return false;
   }
@@ -82,11 +87,15 @@ void cPaletteWindows::ToggleShown(eShown which, int layer) {
 cPaletteWindow& cPaletteWindows::Palette(cPaletteSide side) { return *m_aPalette.at(static_cast<size_t>(SlotOf(side))); }
 
 void cPaletteWindows::ShowLayer(int layer) {
+  QWidget* active = QApplication::activeWindow();
   for (const cPaletteSide side : kCreationOrder) {
     const bool visible = m_config.m_aPlace.at(static_cast<size_t>(kPlaceOf[side.stagePlt][side.kind])).m_bVisible;
     ShowIf(Palette(side).Window(), side.kind == layer && visible);
   }
   ShowIf(m_pGroupWnd->Window(), layer == kCharaLayer && m_config.m_aPlace.at(kGroupPlace).m_bVisible);
+  // Space in a palette of the old layer hid the window that had the focus;
+  // the keys go on to the stage window, where the next Space is handled.
+  if (active && !active->isVisible() && m_pStageWindow) m_pStageWindow->activateWindow();
 }
 
 void cPaletteWindows::Refresh() {

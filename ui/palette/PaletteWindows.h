@@ -1,4 +1,5 @@
 #pragma once
+#include <QPointer>
 #include <QRect>
 #include <array>
 #include <memory>
@@ -49,6 +50,7 @@ class cPaletteWindows {
  private:
   void StorePlaces();
 
+  QPointer<QWidget> m_pStageWindow;
   EditConfig& m_config;
   cPaletteLinks m_links;
   // Common blocks, characters, items, then the stage's.

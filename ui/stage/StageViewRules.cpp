@@ -40,12 +40,12 @@ int WheelCells(int delta) {
 
 bool WheelScrollsVertically(int wheelDir, bool ctrlHeld) { return (wheelDir == 1) != ctrlHeld; }
 
-cCellPos InitialScroll(const cStage& stage) {
+cCellPos InitialScroll(const cStage& stage, int columns, int rows) {
   if (stage.m_vecCharaCell.empty()) return {0, 0};
   const cCellPos player = stage.FindPlayer();
   if (player.x < 0) return {0, 0};
-  return {std::clamp(player.x - kStageViewWidth / 2, 0, std::max(stage.m_nWidth - kStageViewWidth, 0)),
-          std::clamp(player.y - kStageViewHeight / 2, 0, std::max(stage.m_nHeight - kStageViewHeight, 0))};
+  return {std::clamp(player.x - columns / 2, 0, std::max(stage.m_nWidth - columns, 0)),
+          std::clamp(player.y - rows / 2, 0, std::max(stage.m_nHeight - rows, 0))};
 }
 
 cBarRange HorzBarRange(int stageWidth, int clientWidth) { return {stageWidth - 1, clientWidth / kCellDots}; }

@@ -37,8 +37,9 @@ int WheelCells(int delta);
 // Whether the wheel scrolls the view up and down rather than sideways.
 bool WheelScrollsVertically(int wheelDir, bool ctrlHeld);
 
-// The first view of a stage: its player near the middle, or the top left.
-cCellPos InitialScroll(const cStage& stage);
+// The first view of a stage in a view of `columns` x `rows` whole cells:
+// its player in the middle, or the top left.
+cCellPos InitialScroll(const cStage& stage, int columns, int rows);
 
 // Content and page of one scroll bar in cells.
 struct cBarRange {

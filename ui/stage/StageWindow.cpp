@@ -22,6 +22,7 @@
 #include "ui/framework/Commands.h"
 #include "ui/framework/DialogWindow.h"
 #include "ui/framework/QtText.h"
+#include "ui/framework/WindowFrame.h"
 #include "ui/stage/NewStageDialog.h"
 
 namespace velmora {
@@ -29,10 +30,10 @@ namespace {
 
 constexpr int kDefaultX = 50;
 constexpr int kDefaultY = 50;
+constexpr int kDefaultClientWidth = 640;
+constexpr int kDefaultClientHeight = 480;
 constexpr int kMinClientWidth = 384;
 constexpr int kMinClientHeight = 160;
-constexpr int kMaxClientWidth = 640;
-constexpr int kMaxClientHeight = 480;
 constexpr int kStatusCoordinatePart = 0;
 constexpr int kStatusPartWidth = 255;
 // Beside the coordinates, which each repaint of the view writes anew.
@@ -50,11 +51,14 @@ constexpr QStyle::StandardPixmap kStandardImages[kStandardToolImages] = {
 
 cWindowPlace& StagePlace() { return EditorConfig().m_aPlace[EditConfig::PlaceStageEditor]; }
 
+bool HasStoredPlace(const cWindowPlace& place) { return place.m_bStored && place.m_nWidth > 0 && place.m_nHeight > 0; }
+
 }  // namespace
 
 cStageWindow::cStageWindow(cDialogManager& manager, QWidget* parent, cStageWindowHost& host)
     : cDialog(manager, parent), m_host(host) {
   SetLogName("stage");
+  SetWindowStyle(eWindowStyle::MainWindow);
   WantScrollBars();
   WantToolBar();
   WantStatusBar({kStatusPartWidth, kStatusTestPlayWidth});
@@ -66,9 +70,13 @@ cStageWindow::~cStageWindow() { StorePlace(); }
 
 bool cStageWindow::Open() {
   if (!Create(0, false)) return false;
-  Window()->setWindowFlags(Qt::Window | Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
   PlaceWindow();
   Window()->show();
+  // The palettes are placed by this window's frame, and a stored size is
+  // the frame's: both need the frame that the window manager gives.
+  WaitUntilShown(*Window());
+  RestorePlace();
+  ScrollToStart();
   OpenPalettes();
   return true;
 }
@@ -79,7 +87,7 @@ void cStageWindow::OpenPalettes() {
   links.nextLayer = [this] { OnKey(Qt::Key_Space, false); };
   links.paletteChanged = [this] { Repaint(); };
   m_pPalettes = std::make_unique<cPaletteWindows>(Manager(), Window(), EditorConfig(), links);
-  m_pPalettes->Create(Window()->frameGeometry());
+  m_pPalettes->Create(FrameOf(*Window()));
   m_pPalettes->ShowLayer(StageEdit().m_iLayer);
   using A = eMenuAction;
   const std::pair<A, cPaletteWindows::eShown> toggles[] = {{A::CommonPalettes, cPaletteWindows::kCommonShown},
@@ -112,9 +120,6 @@ void cStageWindow::OnInitDialog() {
   SetMenuBar(StageMenu());
   BuildToolBar();
   UpdateStates();
-  UpdateScrollRanges();
-  const cCellPos start = StageEdit().m_bHasStage ? InitialScroll(EditStage()) : cCellPos{0, 0};
-  ScrollTo(start.x, start.y);
   SetAccel(0, StageAccelerators());
   if (onLayerChanged) onLayerChanged(StageEdit().m_iLayer);
 }
@@ -143,29 +148,26 @@ void cStageWindow::BuildToolBar() {
 
 void cStageWindow::PlaceWindow() {
   auto* window = static_cast<cDialogWindow*>(Window());
-  const cWindowPlace& place = StagePlace();
-  const bool stored = place.m_bStored && place.m_nWidth > 0 && place.m_nHeight > 0;
-  const int width = std::clamp(stored ? place.m_nWidth : kMaxClientWidth, kMinClientWidth, kMaxClientWidth);
-  const int height = std::clamp(stored ? place.m_nHeight : kMaxClientHeight, kMinClientHeight, kMaxClientHeight);
   QWidget* client = window->Client();
-  // The window is sized around its client: tool, menu and status bars and
-  // the scroll bars come on top of the drawing area.
-  client->setFixedSize(width, height);
+  // The first window is sized around its client: menu, tool and status
+  // bars and the scroll bars come on top of the drawing area, which then
+  // follows the window.
+  client->setFixedSize(kDefaultClientWidth, kDefaultClientHeight);
   window->adjustSize();
   client->setMinimumSize(kMinClientWidth, kMinClientHeight);
-  client->setMaximumSize(kMaxClientWidth, kMaxClientHeight);
-  window->move(stored ? place.m_nX : kDefaultX, stored ? place.m_nY : kDefaultY);
+  client->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  window->move(kDefaultX, kDefaultY);
+  RestorePlace();
+}
+
+void cStageWindow::RestorePlace() {
+  const cWindowPlace& place = StagePlace();
+  if (HasStoredPlace(place)) PlaceFrame(*Window(), FrameOfPlace(place));
 }
 
 void cStageWindow::StorePlace() {
-  auto* window = static_cast<cDialogWindow*>(Window());
-  if (!window) return;
-  cWindowPlace& place = StagePlace();
-  place.m_bStored = 1;
-  place.m_nX = window->x();
-  place.m_nY = window->y();
-  place.m_nWidth = window->Client()->width();
-  place.m_nHeight = window->Client()->height();
+  if (!Window()) return;
+  KeepPlace(StagePlace(), *Window());
   EditorConfig().SaveFile(PathOf(ePath::EditConfig));
 }
 
@@ -182,6 +184,15 @@ int cStageWindow::ScrollY() const { return VertBar() ? VertBar()->Position() : 0
 void cStageWindow::ScrollTo(int x, int y) {
   if (HorzBar()) HorzBar()->SetPosition(x);
   if (VertBar()) VertBar()->SetPosition(y);
+}
+
+// The view of a stage just opened, for the size the window came up with.
+void cStageWindow::ScrollToStart() {
+  UpdateScrollRanges();
+  if (!StageEdit().m_bHasStage) return;
+  const QWidget* client = static_cast<cDialogWindow*>(Window())->Client();
+  const cCellPos start = InitialScroll(EditStage(), client->width() / kCellDots, client->height() / kCellDots);
+  ScrollTo(start.x, start.y);
 }
 
 void cStageWindow::UpdateScrollRanges() {

@@ -87,7 +87,9 @@ class cStageWindow : public cDialog {
   void InstallBuiltInHandlers();
   void BuildToolBar();
   void PlaceWindow();
+  void RestorePlace();
   void StorePlace();
+  void ScrollToStart();
   void UpdateScrollRanges();
   cViewFrame Frame() const;
   void Mouse(eStageAction action, bool right);

@@ -50,7 +50,9 @@ PIDS+=($!)
 mkdir -p "$OUT"
 
 shot() { sleep 1.5; import -window root "$OUT/$1"; echo "$OUT/$1"; }
-stage_window() { xdotool search --sync --name 'ヴェルモラ' | head -1; }
+# The stage window's title names its stage file; the hidden host window's
+# is the program's name alone.
+stage_window() { xdotool search --sync --name '^ヴェルモラ  ' | head -1; }
 start_editor() {
   (cd "$WORK/sample" && exec "$ROOT/build/app/velmora-editor") &
   EDITOR_PID=$!

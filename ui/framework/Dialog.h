@@ -153,7 +153,8 @@ class cDialog {
 
  protected:
   // After ApplyAll at OK: the dialog's own apply and validation. False
-  // keeps the dialog open.
+  // keeps the dialog open, with the fields already written: a dialog that
+  // validates a record derives from cRecordDialog, which edits a copy.
   virtual bool OnApply() { return true; }
   // A command that the closing rule and the controls left over.
   virtual void OnDialogCommand(int /*id*/, int /*notice*/) {}

@@ -220,8 +220,10 @@ constexpr eDescIndex kBindOrder[] = {kDescEditVal, kDescEditStr, kDescCheck, kDe
 void cDialog::BindControls(const cForm& form) {
   std::vector<cButtonDesc> buttons;
   if (form.okCancel) buttons = {{kIdOk, ""}, {kIdCancel, ""}};
+  const std::vector<const cFormRow*> rows = ControlRows(form.rows);
   for (eDescIndex kind : kBindOrder) {
-    for (const cFormRow& row : form.rows) {
+    for (const cFormRow* rowPointer : rows) {
+      const cFormRow& row = *rowPointer;
       if (row.control.index() != static_cast<size_t>(kind)) continue;
       const int id = DescriptorId(row.control);
       QWidget* widget = Item(id);

@@ -396,8 +396,15 @@ void cDialog::OnCommand(uint32_t wParam, intptr_t lParam) {
     Close(0);
     return;
   }
-  OnDialogCommand(id, CommandNotice(wParam));
+  if (!OfferToControls(id)) OnDialogCommand(id, CommandNotice(wParam));
   if (IsOpen() && FindChanged(wParam) != 0) UpdateEnables();
+}
+
+bool cDialog::OfferToControls(int id) {
+  for (size_t i = 0; i < m_vecControl.size(); ++i) {
+    if (m_vecControl[i]->TakeCommand(id)) return true;
+  }
+  return false;
 }
 
 void cDialog::Notify(int id, const cNotice& notice) {

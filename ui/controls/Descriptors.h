@@ -9,6 +9,7 @@
 #include <variant>
 #include <vector>
 
+#include "objects/RefSizes.h"
 #include "ui/controls/ValueField.h"
 
 namespace velmora {
@@ -105,8 +106,18 @@ struct cCustomDesc {
   std::function<QWidget*(QWidget* parent)> make;
 };
 
+// The "再生" button beside a choice of the Sound or Bgm list: it plays the
+// row that the combo box `comboId` shows, chosen or committed, tells
+// "読み込み失敗！" when the file can't be played, and stops what it started
+// when the dialog closes.
+struct cSoundPreviewDesc {
+  int id = 0;
+  eDbList list = eDbList::Sound;
+  int comboId = 0;
+};
+
 using cControlDesc = std::variant<cButtonDesc, cEditValDesc, cEditStrDesc, cPictureDesc, cCheckDesc, cComboDesc,
-                                  cSliderDesc, cStaticDesc, cCustomDesc>;
+                                  cSliderDesc, cStaticDesc, cCustomDesc, cSoundPreviewDesc>;
 
 int DescriptorId(const cControlDesc& desc);
 

@@ -91,6 +91,7 @@ class cWidgetMaker {
   void operator()(const cComboDesc& d) { Add(d.id, new QComboBox(&m_parent), false); }
   void operator()(const cSliderDesc& d) { Add(d.id, new QSlider(Qt::Horizontal, &m_parent), true); }
   void operator()(const cStaticDesc& d) { Add(d.id, new QLabel(Ui(d.text), &m_parent), true); }
+  void operator()(const cSoundPreviewDesc& d) { Add(d.id, new QPushButton(Ui("再生"), &m_parent), false); }
   void operator()(const cCustomDesc& d) {
     if (d.make) Add(d.id, d.make(&m_parent), true);
   }

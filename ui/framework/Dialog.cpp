@@ -25,6 +25,7 @@
 #include "ui/controls/Picture.h"
 #include "ui/controls/ScrollBar.h"
 #include "ui/controls/Slider.h"
+#include "ui/controls/SoundPreviewButton.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/DialogManager.h"
 #include "ui/framework/DialogWindow.h"
@@ -211,9 +212,12 @@ void cDialog::OnInitDialog() {
 namespace {
 
 // The order in which a dialog binds its kinds of controls.
-enum eDescIndex { kDescButton, kDescEditVal, kDescEditStr, kDescPicture, kDescCheck, kDescCombo, kDescSlider };
-constexpr eDescIndex kBindOrder[] = {kDescEditVal, kDescEditStr, kDescCheck, kDescCombo,
-                                     kDescButton,  kDescSlider,  kDescPicture};
+enum eDescIndex {
+  kDescButton, kDescEditVal, kDescEditStr, kDescPicture, kDescCheck, kDescCombo, kDescSlider, kDescStatic,
+  kDescCustom, kDescSoundPreview,
+};
+constexpr eDescIndex kBindOrder[] = {kDescEditVal, kDescEditStr, kDescCheck,  kDescCombo,
+                                     kDescButton,  kDescSoundPreview, kDescSlider, kDescPicture};
 
 }  // namespace
 
@@ -269,6 +273,12 @@ void cDialog::BindControls(const cForm& form) {
           AddControl(std::make_unique<cSlider>(*this, qobject_cast<QSlider*>(widget),
                                                std::get<cSliderDesc>(row.control)));
           break;
+        case kDescSoundPreview:
+          AddControl(std::make_unique<cSoundPreviewButton>(*this, qobject_cast<QAbstractButton*>(widget),
+                                                           std::get<cSoundPreviewDesc>(row.control)));
+          break;
+        case kDescStatic:
+        case kDescCustom: break;
       }
     }
     if (kind == kDescButton) {

@@ -22,7 +22,8 @@ template <class Element>
 class cRecordListEdit : public cListEdit<Element> {
  public:
   // Opens the dialog of one record; true on OK. `isNew` for a record that
-  // insert has just made.
+  // insert has just made. Without it (the flows of the flow editor, whose
+  // fields stand beside the list) insert keeps the default record.
   std::function<bool(Element& record, bool isNew)> m_Edit;
   // Why the clipboard can't be pasted, in CP932; "" lets it in.
   std::function<std::string(const std::vector<Element>& clipboard)> m_PasteRefusal;
@@ -38,6 +39,7 @@ class cRecordListEdit : public cListEdit<Element> {
   bool Insert() override {
     const int before = this->m_nSel;
     if (!cListEdit<Element>::Insert()) return false;
+    if (!m_Edit) return true;
     Element fresh = Selected();
     if (m_Edit && m_Edit(fresh, true)) {
       Selected() = std::move(fresh);

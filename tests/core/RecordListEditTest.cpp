@@ -74,6 +74,14 @@ TEST_F(RecordListEdit, InsertOpensADefaultRecordThatCancelTakesOutAgain) {
   EXPECT_EQ(conds.size(), 4u);
 }
 
+TEST_F(RecordListEdit, WithoutADialogInsertKeepsTheDefaultRecord) {
+  list.m_Edit = nullptr;
+  list.Select(2, true);
+  EXPECT_TRUE(list.Insert());
+  EXPECT_EQ(Values(), (std::vector<int>{1, 2, 0, 3}));
+  EXPECT_FALSE(list.EditSelected());
+}
+
 TEST_F(RecordListEdit, AFullListOpensNoDialog) {
   conds.assign(99, Cond(kCondCommonVar, 1));
   list.Select(0, true);

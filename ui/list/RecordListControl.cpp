@@ -17,12 +17,13 @@ QWidget* MakeRecordListWidget(QWidget* parent) {
 }  // namespace
 
 cFormRow RecordListRows(const cRecordListIds& ids) {
-  return FormRows({
-      {nullptr, cCustomDesc{ids.list, MakeRecordListWidget}},
-      {nullptr, cButtonDesc{ids.insert, "挿入"}},
-      {nullptr, cButtonDesc{ids.edit, "編集"}, nullptr, nullptr, true},
-      {nullptr, cButtonDesc{ids.remove, "削除"}, nullptr, nullptr, true},
-  });
+  std::vector<cFormRow> rows = {{nullptr, cCustomDesc{ids.list, MakeRecordListWidget}}};
+  const cButtonDesc buttons[] = {{ids.insert, "挿入"}, {ids.edit, "編集"}, {ids.remove, "削除"}};
+  for (const cButtonDesc& button : buttons) {
+    // The buttons stand in one line under the list.
+    if (button.id != 0) rows.push_back({nullptr, button, nullptr, nullptr, rows.size() > 1});
+  }
+  return FormRows(std::move(rows));
 }
 
 }  // namespace velmora

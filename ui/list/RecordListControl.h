@@ -15,13 +15,13 @@ namespace velmora {
 struct cRecordListIds {
   int list = 0;
   int insert = 0;  // "挿入"
-  int edit = 0;    // "編集"
+  int edit = 0;    // "編集"; 0 for a list without it
   int remove = 0;  // "削除"
   int listNumber = 1;
 };
 
 // The rows that show a record list in a dialog's table: the list with its
-// three buttons under it.
+// buttons under it.
 cFormRow RecordListRows(const cRecordListIds& ids);
 
 // A list of records inside a dialog, each record edited in a dialog of its

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "FullStage.h"
 #include "stage/Stage.h"
 #include "graphics/stageview/StageView.h"
 #include "graphics/FixedBitmaps.h"
@@ -31,24 +32,6 @@ double AverageMs(int rounds, Work work) {
   return (ThreadMs() - start) / rounds;
 }
 
-// Every cell holds a block, a character with a mark and an item, the
-// pictures varying from cell to cell.
-void FillLayers(cStage& stage) {
-  for (int y = 0; y < stage.m_nHeight; ++y) {
-    for (int x = 0; x < stage.m_nWidth; ++x) {
-      const size_t index = static_cast<size_t>(stage.CellIndex(x, y));
-      stage.m_vecBlockCell[index].m_nGraphicNo = static_cast<int16_t>(1 + (x + y) % 100);
-      cEdChara& chara = stage.m_vecCharaCell[index];
-      chara.m_nGraphicNo = static_cast<int16_t>(1 + (x * 3 + y) % 100);
-      chara.m_nGraphicShift = static_cast<int16_t>(x % 8);
-      chara.m_bFaceRight = static_cast<uint8_t>(y % 2);
-      chara.m_nMarkShow = 1;
-      chara.m_nMarkNo = static_cast<int16_t>(x % 30);
-      stage.m_vecItemCell[index].m_nGraphicNo = static_cast<int16_t>(1 + (x + y * 5) % 100);
-    }
-  }
-}
-
 }  // namespace
 
 int main() {
@@ -63,7 +46,7 @@ int main() {
   cStage stage;
   stage.InitDefault();
   stage.SetSize(64, 32, 0, 0);
-  FillLayers(stage);
+  bench::FillLayers(stage);
   stage.m_bScrollMinX = stage.m_bScrollMaxX = stage.m_bScrollMinY = stage.m_bScrollMaxY = 1;
   stage.m_iScrollMaxX = 30;
   stage.m_iScrollMaxY = 20;

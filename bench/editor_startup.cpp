@@ -2,12 +2,12 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QImage>
-#include <ctime>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 
 #include "FullStage.h"
+#include "ThreadClock.h"
 #include "sample/SampleProject.h"
 #include "stage/Stage.h"
 #include "ui/app/EditorApp.h"
@@ -22,23 +22,15 @@ constexpr int kLargeStageWidth = 64;
 constexpr int kLargeStageHeight = 48;
 constexpr int kRounds = 500;
 
-// Processor time of this thread, which does all the painting: the machine
-// that runs the benchmarks is shared, and wall time would count the other
-// programs' turns.
-double ThreadMs() {
-  timespec now{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-}
-
-// One full repaint of the stage view, on average; rendering into an image
-// runs the window's own paint, displayed or not.
+// One full repaint of the stage view, on average, in processor time of
+// this thread, which does all the painting. Rendering into an image runs
+// the window's own paint, displayed or not.
 double RepaintMs(QWidget* client) {
   QImage target(client->size(), QImage::Format_RGB32);
   client->render(&target);
-  const double start = ThreadMs();
+  const double start = velmora::bench::ThreadMs();
   for (int i = 0; i < kRounds; ++i) client->render(&target);
-  return (ThreadMs() - start) / kRounds;
+  return (velmora::bench::ThreadMs() - start) / kRounds;
 }
 
 }  // namespace

@@ -2,11 +2,11 @@
 // layers are occupied in every cell, drawn from the sample pictures.
 #include <unistd.h>
 
-#include <ctime>
 #include <cstdio>
 #include <filesystem>
 
 #include "FullStage.h"
+#include "ThreadClock.h"
 #include "stage/Stage.h"
 #include "graphics/stageview/StageView.h"
 #include "graphics/FixedBitmaps.h"
@@ -17,19 +17,11 @@ using namespace velmora;
 
 namespace {
 
-// Processor time of this thread: the machine that runs the benchmarks is
-// shared, and wall time would count the other programs' turns.
-double ThreadMs() {
-  timespec now{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-}
-
 template <class Work>
 double AverageMs(int rounds, Work work) {
-  const double start = ThreadMs();
+  const double start = bench::ThreadMs();
   for (int i = 0; i < rounds; ++i) work();
-  return (ThreadMs() - start) / rounds;
+  return (bench::ThreadMs() - start) / rounds;
 }
 
 }  // namespace

@@ -37,7 +37,7 @@ const cStyleRule& RuleOf(eWindowStyle style) {
 // Window managers draw titles in a bold face of about the desktop's size.
 // Beside the title the frame holds the window's icon and its boxes: some
 // managers show minimise and maximise whatever a window asks for, so room
-// is kept for three, and for the space around them.
+// is kept for the icon, three boxes and the space around them.
 constexpr int kFrameBoxes = 6;
 constexpr int kBoxPadding = 8;
 

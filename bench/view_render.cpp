@@ -2,10 +2,11 @@
 // layers are occupied in every cell, drawn from the sample pictures.
 #include <unistd.h>
 
-#include <ctime>
 #include <cstdio>
 #include <filesystem>
 
+#include "FullStage.h"
+#include "ThreadClock.h"
 #include "stage/Stage.h"
 #include "graphics/stageview/StageView.h"
 #include "graphics/FixedBitmaps.h"
@@ -16,37 +17,11 @@ using namespace velmora;
 
 namespace {
 
-// Processor time of this thread: the machine that runs the benchmarks is
-// shared, and wall time would count the other programs' turns.
-double ThreadMs() {
-  timespec now{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
-}
-
 template <class Work>
 double AverageMs(int rounds, Work work) {
-  const double start = ThreadMs();
+  const double start = bench::ThreadMs();
   for (int i = 0; i < rounds; ++i) work();
-  return (ThreadMs() - start) / rounds;
-}
-
-// Every cell holds a block, a character with a mark and an item, the
-// pictures varying from cell to cell.
-void FillLayers(cStage& stage) {
-  for (int y = 0; y < stage.m_nHeight; ++y) {
-    for (int x = 0; x < stage.m_nWidth; ++x) {
-      const size_t index = static_cast<size_t>(stage.CellIndex(x, y));
-      stage.m_vecBlockCell[index].m_nGraphicNo = static_cast<int16_t>(1 + (x + y) % 100);
-      cEdChara& chara = stage.m_vecCharaCell[index];
-      chara.m_nGraphicNo = static_cast<int16_t>(1 + (x * 3 + y) % 100);
-      chara.m_nGraphicShift = static_cast<int16_t>(x % 8);
-      chara.m_bFaceRight = static_cast<uint8_t>(y % 2);
-      chara.m_nMarkShow = 1;
-      chara.m_nMarkNo = static_cast<int16_t>(x % 30);
-      stage.m_vecItemCell[index].m_nGraphicNo = static_cast<int16_t>(1 + (x + y * 5) % 100);
-    }
-  }
+  return (bench::ThreadMs() - start) / rounds;
 }
 
 }  // namespace
@@ -63,7 +38,7 @@ int main() {
   cStage stage;
   stage.InitDefault();
   stage.SetSize(64, 32, 0, 0);
-  FillLayers(stage);
+  bench::FillLayers(stage);
   stage.m_bScrollMinX = stage.m_bScrollMaxX = stage.m_bScrollMinY = stage.m_bScrollMaxY = 1;
   stage.m_iScrollMaxX = 30;
   stage.m_iScrollMaxY = 20;

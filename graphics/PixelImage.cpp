@@ -57,21 +57,35 @@ void cPixelImage::PutPixel(int x, int y, const cPixelValue& value) {
   for (int i = 0; i < value.size; ++i) p[i] = value.bytes[i];
 }
 
-void cPixelImage::FillRect(int x, int y, int w, int h, const cPixelValue& value) {
-  int left = std::max(x, 0);
-  int top = std::max(y, 0);
-  int right = static_cast<int>(std::min<long long>(static_cast<long long>(x) + w, m_width));
-  int bottom = static_cast<int>(std::min<long long>(static_cast<long long>(y) + h, m_height));
-  if (left >= right || top >= bottom) return;
-  // The first row pixel by pixel, every other row as a copy of it.
-  uint8_t* first = Pixel(left, top);
-  const size_t bytes = static_cast<size_t>(right - left) * static_cast<size_t>(value.size);
-  if (value.size == 1) {
-    std::memset(first, value.bytes[0], bytes);
-  } else {
-    for (size_t i = 0; i < bytes; ++i) first[i] = value.bytes[i % static_cast<size_t>(value.size)];
+namespace {
+
+// `count` pixels of one value in a row; each size gets a loop of its own,
+// which a whole view's width and a grid line's one dot both pass quickly.
+void FillPixels(uint8_t* out, size_t count, const cPixelValue& value) {
+  switch (value.size) {
+    case 1:
+      std::memset(out, value.bytes[0], count);
+      return;
+    case 4: {
+      uint32_t pixel;
+      std::memcpy(&pixel, value.bytes, sizeof pixel);
+      for (size_t i = 0; i < count; ++i) std::memcpy(out + 4 * i, &pixel, sizeof pixel);
+      return;
+    }
+    default:
+      for (size_t i = 0; i < count; ++i) std::memcpy(out + 3 * i, value.bytes, 3);
   }
-  for (int row = top + 1; row < bottom; ++row) std::memcpy(Pixel(left, row), first, bytes);
+}
+
+}  // namespace
+
+void cPixelImage::FillRect(int x, int y, int w, int h, const cPixelValue& value) {
+  const int left = std::max(x, 0);
+  const int top = std::max(y, 0);
+  const int right = static_cast<int>(std::min<long long>(static_cast<long long>(x) + w, m_width));
+  const int bottom = static_cast<int>(std::min<long long>(static_cast<long long>(y) + h, m_height));
+  if (left >= right || top >= bottom) return;
+  for (int row = top; row < bottom; ++row) FillPixels(Pixel(left, row), static_cast<size_t>(right - left), value);
 }
 
 }  // namespace velmora

@@ -102,14 +102,16 @@ void cSurface::Box(int x, int y, int w, int h) {
   Line(x, bottom, x, y);
 }
 
+// The lines are what a solid pen of one dot draws, end points left out,
+// laid down as thin rectangles rather than point by point: a large view
+// has a great many of them.
 void cSurface::Grid(int x, int y, int w, int h, int stepY, int stepX, cColourRef colour) {
-  if (stepX <= 0 || stepY <= 0) return;
-  SetPen(kPenSolid, 1, colour);
-  for (int i = 0; i <= w / stepX; ++i) Line(x + i * stepX, y, x + i * stepX, y + h);
-  Line(x + w - 1, y, x + w - 1, y + h);
-  for (int j = 0; j <= h / stepY; ++j) Line(x, y + j * stepY, x + w, y + j * stepY);
-  Line(x, y + h - 1, x + w, y + h - 1);
-  FreePen();
+  if (stepX <= 0 || stepY <= 0 || !IsLoaded()) return;
+  const cPixelValue ink = m_image.Encode(colour);
+  for (int i = 0; i <= w / stepX; ++i) m_image.FillRect(x + i * stepX, y, 1, h, ink);
+  m_image.FillRect(x + w - 1, y, 1, h, ink);
+  for (int j = 0; j <= h / stepY; ++j) m_image.FillRect(x, y + j * stepY, w, 1, ink);
+  m_image.FillRect(x, y + h - 1, w, 1, ink);
 }
 
 void cSurface::SetFont(const std::string& name, int width, int height) { m_font = cFontChoice{name, width, height}; }

@@ -41,7 +41,8 @@ class cWrappingLabel : public QLabel {
 bool FitsLabelColumn(const QString& label, const QFontMetrics& metrics) {
   const int column = metrics.horizontalAdvance(QString(kLabelColumnChars, QChar(kFullWidthSample)));
   const QStringList lines = label.split(QLatin1Char('\n'));
-  return std::all_of(lines.begin(), lines.end(), [&](const QString& line) { return metrics.horizontalAdvance(line) <= column; });
+  return std::all_of(lines.begin(), lines.end(),
+                     [&](const QString& line) { return metrics.horizontalAdvance(line) <= column; });
 }
 
 // Wide enough for the characters the field shows at once; a field for a

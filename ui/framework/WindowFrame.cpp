@@ -6,25 +6,29 @@
 #include <QThread>
 #include <QWidget>
 #include <QWindow>
+#include <optional>
 
 #include "core/WindowPlace.h"
 
 namespace velmora {
 namespace {
 
-// The margins of the last window seen framed.
-QMargins g_learntMargins;
+// The margins of the first window seen framed, the stage window. They stand
+// in for every window not framed now, the same when a place is kept as
+// when it is taken again, though a manager may frame a window that can't
+// be resized with a thinner bottom edge.
+std::optional<QMargins> g_firstMargins;
 
 }  // namespace
 
 QMargins FrameMargins(const QWidget& window) {
   const QRect frame = window.frameGeometry();
   const QRect inner = window.geometry();
-  if (frame != inner) {
-    g_learntMargins = QMargins(inner.left() - frame.left(), inner.top() - frame.top(),
-                               frame.right() - inner.right(), frame.bottom() - inner.bottom());
-  }
-  return g_learntMargins;
+  if (frame == inner) return g_firstMargins.value_or(QMargins());
+  const QMargins margins(inner.left() - frame.left(), inner.top() - frame.top(), frame.right() - inner.right(),
+                         frame.bottom() - inner.bottom());
+  if (!g_firstMargins) g_firstMargins = margins;
+  return margins;
 }
 
 // Qt keeps a top-level window's position as the frame's, also while the

@@ -10,9 +10,10 @@ class cWindowPlace;
 
 // Window places as the author sees them: the outer frame that the window
 // manager draws around a window, title bar included. The frame is known
-// only once the manager has framed the window; until then the margins of
-// the last framed window stand in, since one manager frames all our
-// windows alike. Without a manager a frame is the window itself.
+// only while the manager frames the window; before it is shown, and while
+// it is hidden, the margins of the first framed window stand in, since one
+// manager frames our windows alike. Without a manager a frame is the
+// window itself.
 
 // The frame of a top-level window, shown or not yet shown.
 QRect FrameOf(const QWidget& window);

@@ -34,11 +34,12 @@ const cStyleRule& RuleOf(eWindowStyle style) {
   return kRules[0];
 }
 
-// Window managers draw titles in a bold face of about the desktop's size;
-// the frame holds the window's icon and its close box beside the title,
-// with some air.
-constexpr int kFrameBoxes = 3;
-constexpr int kBoxPadding = 6;
+// Window managers draw titles in a bold face of about the desktop's size.
+// Beside the title the frame holds the window's icon and its boxes: some
+// managers show minimise and maximise whatever a window asks for, so room
+// is kept for the icon, three boxes and the space around them.
+constexpr int kFrameBoxes = 6;
+constexpr int kBoxPadding = 8;
 
 }  // namespace
 

@@ -156,7 +156,8 @@ void cPaletteWindow::PlaceWindow(const QRect& stageFrame, const QRect& commonFra
   // that the room left for the client is known.
   client->setFixedHeight(kMinClientHeight);
   window->adjustSize();
-  const QPoint place(stageFrame.right() + 1 + kGap, m_bStagePlt ? commonFrame.bottom() + 1 + kGap : stageFrame.top() + kGap);
+  const int top = m_bStagePlt ? commonFrame.bottom() + 1 + kGap : stageFrame.top() + kGap;
+  const QPoint place(stageFrame.right() + 1 + kGap, top);
   MoveFrame(*window, place);
   client->setFixedHeight(std::clamp((Rows() - 1) * kCell, kMinClientHeight, MaxClientHeight(place.y())));
   window->adjustSize();

@@ -1,0 +1,15 @@
+#pragma once
+#include <ctime>
+
+namespace velmora::bench {
+
+// Processor time of this thread in milliseconds: the machine that runs the
+// benchmarks is shared, and wall time would count the other programs'
+// turns.
+inline double ThreadMs() {
+  timespec now{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+}  // namespace velmora::bench

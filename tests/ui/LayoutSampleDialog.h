@@ -58,7 +58,8 @@ class cLayoutSampleDialog : public cDialog {
                                                          LabelRows(KeyStateTable))}};
                       })),
             FormRows(RepeatRows(kValueCount, [&record](int i) -> std::vector<cFormRow> {
-              return {{kValueLabel, cEditValDesc{kIdValueBase + i, &record.anValue[static_cast<size_t>(i)], 0, 9999, 0, 1}}};
+              const size_t at = static_cast<size_t>(i);
+              return {{kValueLabel, cEditValDesc{kIdValueBase + i, &record.anValue[at], 0, 9999, 0, 1}}};
             })),
         }),
     };

@@ -18,6 +18,7 @@ namespace {
 
 constexpr cRecordListIds kIds{3101, 3102, 3103, 3104, 2};
 constexpr int kIdValue = 3110;
+constexpr const char* kDistancePaste = "「距離条件」の貼り付けはできません！";
 
 // The dialog of one condition, standing in for those of each kind.
 class cValueDialog : public cRecordDialog<cEdCond> {
@@ -40,7 +41,7 @@ class cHostDialog : public cRecordDialog<cCondList> {
     };
     conds.m_PasteRefusal = [](const std::vector<cEdCond>& clipboard) {
       for (const cEdCond& cond : clipboard) {
-        if (cond.m_nKind == kCondDistance) return std::string(SysText("「距離条件」の貼り付けはできません！"));
+        if (cond.m_nKind == kCondDistance) return std::string(SysText(kDistancePaste));
       }
       return std::string();
     };
@@ -96,7 +97,7 @@ class RecordList : public ::testing::Test {
   }
   std::vector<int> Values() const {
     std::vector<int> values;
-    for (const cEdCond& cond : host.conds.m_lpData ? *host.conds.m_lpData : std::vector<cEdCond>{}) values.push_back(cond.m_nValue);
+    for (const cEdCond& cond : *host.conds.m_lpData) values.push_back(cond.m_nValue);
     return values;
   }
   QString Row(int row) const { return widget->item(row)->text(); }
@@ -156,7 +157,7 @@ TEST_F(RecordList, MenuAndKeysKeepTheListsOwnClipboardAndItsPasteRule) {
   host.control->OnKey(Qt::Key_X, true);
   EXPECT_EQ(Values(), (std::vector<int>{1, 1, 2}));
   host.control->OnKey(Qt::Key_V, true);
-  EXPECT_EQ(prompt.LastText(), "「距離条件」の貼り付けはできません！");
+  EXPECT_EQ(prompt.LastText(), kDistancePaste);
   EXPECT_EQ(Values(), (std::vector<int>{1, 1, 2}));
 
   host.conds.m_lpData->assign(99, Cond(kCondCommonVar, 5));

@@ -78,7 +78,8 @@ class cRecordListControl : public cListControl<Element> {
 // Binds the list of `ids` that the dialog's table made to `edit`; for the
 // dialog's BindOwnControls. Null when the window has no such list.
 template <class Element>
-cRecordListControl<Element>* BindRecordList(cDialog& dialog, const cRecordListIds& ids, cRecordListEdit<Element>& edit) {
+cRecordListControl<Element>* BindRecordList(cDialog& dialog, const cRecordListIds& ids,
+                                            cRecordListEdit<Element>& edit) {
   auto* widget = qobject_cast<QListWidget*>(dialog.Item(ids.list));
   if (!widget) return nullptr;
   auto control = std::make_unique<cRecordListControl<Element>>(dialog, widget, ids, edit);

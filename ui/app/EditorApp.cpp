@@ -44,6 +44,7 @@
 #include "ui/framework/QtCatalogue.h"
 #include "ui/framework/QtPrompt.h"
 #include "ui/framework/QtText.h"
+#include "ui/framework/QtTextRenderer.h"
 
 namespace velmora {
 namespace {
@@ -120,6 +121,7 @@ bool cEditorApp::Start() {
     SetScreenSize({screen->geometry().width(), screen->geometry().height()});
   }
   m_font = UiFontOf(QApplication::font());
+  InstallQtTextRenderer();
   WriteStartupReport(m_font);
   m_pManager = std::make_unique<cDialogManager>();
   if (!m_pPrompt) {

@@ -1,5 +1,7 @@
 #include "ui/palette/SurfaceImage.h"
 
+#include <QPainter>
+
 #include "graphics/Surface.h"
 
 namespace velmora {
@@ -20,6 +22,11 @@ QImage ToImage(const cSurface& surface) {
     }
   }
   return image;
+}
+
+void DrawView(QPainter& painter, const cSurface& view) {
+  const cPixelImage& image = view.Image();
+  painter.drawImage(0, 0, QImage(image.Row(0), image.Width(), image.Height(), image.Stride(), QImage::Format_RGB32));
 }
 
 }  // namespace velmora

@@ -25,7 +25,7 @@ cWorldSettings SettingsOf(const cEdWorldMap& map) {
 cWorldMapEditor::cWorldMapEditor(cEdWorldMap& map, cEdWorldEditState& state, const EditConfig& config)
     : m_map(map), m_state(state), m_config(config) {}
 
-void cWorldMapEditor::Record() { m_state.m_history.Record(m_map); }
+void cWorldMapEditor::KeepUndoState() { m_state.m_history.Record(m_map); }
 
 // ---- the mouse ----
 
@@ -41,14 +41,14 @@ void cWorldMapEditor::Press(int x, int y, bool right) {
       m_state.m_iCurrent = -1;
       return;
     }
-    Record();
+    KeepUndoState();
     m_state.PaintBrush(m_map, x, y);
     return;
   }
   if (right || !m_state.HasTemplate()) return;
   // The event dialog keeps its own undo state on OK.
   const bool editsPlaced = m_config.m_bEditIfPlaced && m_map.HasEventAt(x, y);
-  if (!editsPlaced && !m_config.m_bEditBeforePlace) Record();
+  if (!editsPlaced && !m_config.m_bEditBeforePlace) KeepUndoState();
   PlaceTemplateAt(x, y);
 }
 
@@ -87,14 +87,14 @@ void cWorldMapEditor::EditPlacedAt(int x, int y) {
   if (!placed || !editEvent) return;
   cEdWorldEvent working = *placed;
   if (!editEvent(working, false)) return;
-  Record();
+  KeepUndoState();
   if (cEdWorldEvent* target = m_map.EventAt(x, y)) *target = std::move(working);
   Changed();
 }
 
 void cWorldMapEditor::PlaceThroughDialog(cEdWorldEvent event, int x, int y) {
   if (!editEvent || !editEvent(event, true)) return;
-  Record();
+  KeepUndoState();
   m_map.PlaceEvent(std::move(event), x, y);
   Changed();
 }
@@ -116,12 +116,12 @@ void cWorldMapEditor::RunPopup(eWorldPopup command, int x, int y) {
     case eWorldPopup::Edit: EditPlacedAt(x, y); return;
     case eWorldPopup::Copy: m_state.FillClip(*placed); return;
     case eWorldPopup::Cut:
-      Record();
+      KeepUndoState();
       m_state.FillClip(*placed);
       m_map.RemoveEvent(placed);
       break;
     case eWorldPopup::Paste: {
-      Record();
+      KeepUndoState();
       cEdWorldEvent copy = m_state.m_Clip;
       NumberIfAsked(copy, x, y);
       m_map.PlaceEvent(std::move(copy), x, y);
@@ -134,7 +134,7 @@ void cWorldMapEditor::RunPopup(eWorldPopup command, int x, int y) {
       return;
     }
     case eWorldPopup::Delete:
-      Record();
+      KeepUndoState();
       m_map.RemoveEventsAt(x, y);
       break;
   }
@@ -157,14 +157,14 @@ bool cWorldMapEditor::Redo() {
 
 void cWorldMapEditor::ClearChips() {
   if (!AskClear("全てのマップチップをクリアしますか？")) return;
-  Record();
+  KeepUndoState();
   m_map.ClearChips();
   Changed();
 }
 
 void cWorldMapEditor::ClearEvents() {
   if (!AskClear("全てのイベントをクリアしますか？")) return;
-  Record();
+  KeepUndoState();
   m_map.ClearEvents();
   Changed();
 }

@@ -57,6 +57,9 @@ class cWorldMapEditor {
   void ClearChips();
   void ClearEvents();
   void ApplySettings(const cWorldSettings& settings);
+  // The map as it is now becomes the newest undo state, as an OK of the
+  // event dialog keeps it.
+  void KeepUndoState();
   // A failed save goes to the report only; the map stays changed.
   bool Save();
   // The question when the window closes: Yes saves, No reads the file
@@ -64,7 +67,6 @@ class cWorldMapEditor {
   bool AskBeforeClose();
 
  private:
-  void Record();
   void Changed() { m_state.m_bWorldDirty = 1; }
   void PlaceTemplateAt(int x, int y);
   void NumberIfAsked(cEdWorldEvent& event, int x, int y) const;

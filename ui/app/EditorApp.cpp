@@ -300,6 +300,7 @@ int cEditorApp::IdleStep() {
   if (m_bRestoreFocus) {
     m_bRestoreFocus = false;
     if (m_nCurrentMode == 0 && m_pStageWindow->Window()) m_pStageWindow->Window()->activateWindow();
+    if (m_nCurrentMode == 1 && m_modeWindows.focus) m_modeWindows.focus();
   }
   ++m_nFrames;
   // A window may close during its own idle call; walk a copy.
@@ -325,9 +326,15 @@ void cEditorApp::StageWindowMinimised() { ApplyWindowSteps(m_windowSet.UserMinim
 
 void cEditorApp::StageWindowRestored() { ApplyWindowSteps(m_windowSet.RestoredFromTaskBar()); }
 
+void cEditorApp::SetCurrentMode(int mode, const cModeWindows& windows) {
+  m_nCurrentMode = mode;
+  m_modeWindows = windows;
+}
+
 void cEditorApp::ApplyWindowSteps(const cWindowSetSteps& steps) {
   cPaletteWindows* palettes = m_pStageWindow ? m_pStageWindow->Palettes() : nullptr;
-  if (steps.hideSet && palettes) palettes->ShowLayer(kNoLayer);
+  if (steps.hideSet && m_nCurrentMode == 1 && m_modeWindows.hidePalettes) m_modeWindows.hidePalettes();
+  else if (steps.hideSet && palettes) palettes->ShowLayer(kNoLayer);
   if (steps.minimiseHost && m_pHost) m_pHost->setWindowState(m_pHost->windowState() | Qt::WindowMinimized);
   if (steps.restore) RestoreWindows();
 }
@@ -338,7 +345,9 @@ void cEditorApp::ApplyWindowSteps(const cWindowSetSteps& steps) {
 void cEditorApp::RestoreWindows() {
   if (m_pHost) m_pHost->setWindowState(m_pHost->windowState() & ~Qt::WindowMinimized);
   m_bRestoreFocus = true;
-  if (m_pStageWindow && m_pStageWindow->Window()) {
+  if (m_nCurrentMode == 1 && m_modeWindows.restore) {
+    m_modeWindows.restore();
+  } else if (m_pStageWindow && m_pStageWindow->Window()) {
     m_pStageWindow->Window()->showNormal();
     if (m_pStageWindow->Palettes()) m_pStageWindow->Palettes()->ShowLayer(StageEdit().m_iLayer);
   }

@@ -53,6 +53,8 @@ class cEditorApp : public cStageWindowHost {
 
   void StageWindowMinimised() override;
   void StageWindowRestored() override;
+  void SetCurrentMode(int mode, const cModeWindows& windows) override;
+  int CurrentMode() const { return m_nCurrentMode; }
 
   // The host window's events.
   void SetActive(bool active);
@@ -102,6 +104,7 @@ class cEditorApp : public cStageWindowHost {
   bool m_bRebuildPending = false;
   bool m_bPaletteRepaintPending = false;
   int m_nCurrentMode = 0;  // 0 the stage editor, 1 the world map editor
+  cModeWindows m_modeWindows;  // those of mode 1
   int m_nFrames = 0;
 };
 

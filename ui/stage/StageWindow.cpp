@@ -1,9 +1,5 @@
 #include "ui/stage/StageWindow.h"
 
-#include <QApplication>
-#include <QImage>
-#include <QPainter>
-#include <QPixmap>
 #include <QStyle>
 #include <QToolBar>
 #include <algorithm>
@@ -12,7 +8,6 @@
 #include "core/ProjectPaths.h"
 #include "core/SaveData.h"
 #include "core/SystemText.h"
-#include "platform/HostPath.h"
 #include "stage/TestPlay.h"
 #include "stage/StageBrush.h"
 #include "stage/StageCommands.h"
@@ -22,8 +17,10 @@
 #include "ui/framework/Commands.h"
 #include "ui/framework/DialogWindow.h"
 #include "ui/framework/QtText.h"
+#include "ui/framework/ToolStrip.h"
 #include "ui/framework/WindowFrame.h"
 #include "ui/stage/NewStageDialog.h"
+#include "ui/worldmap/WorldMapEntry.h"
 
 namespace velmora {
 namespace {
@@ -41,8 +38,7 @@ constexpr int kStatusTestPlayPart = 1;
 constexpr int kStatusTestPlayWidth = 0;
 constexpr int kToolImage = 16;
 
-const char* const kToolStrips[] = {"e_bmp\\ToolBar_Palette.bmp", "e_bmp\\ToolBar_TestPlay.bmp"};
-constexpr int kToolStripImages[] = {3, 2};
+constexpr cToolStripFile kToolStrips[] = {{"e_bmp\\ToolBar_Palette.bmp", 3}, {"e_bmp\\ToolBar_TestPlay.bmp", 2}};
 
 // The platform's own pictures for new, open, save, undo and redo.
 constexpr QStyle::StandardPixmap kStandardImages[kStandardToolImages] = {
@@ -89,6 +85,7 @@ void cStageWindow::OpenPalettes() {
   m_pPalettes = std::make_unique<cPaletteWindows>(Manager(), Window(), EditorConfig(), links);
   m_pPalettes->Create(FrameOf(*Window()));
   m_pPalettes->ShowLayer(StageEdit().m_iLayer);
+  InstallWorldMapEntry(*this);
   using A = eMenuAction;
   const std::pair<A, cPaletteWindows::eShown> toggles[] = {{A::CommonPalettes, cPaletteWindows::kCommonShown},
                                                            {A::StagePalettes, cPaletteWindows::kStageShown},
@@ -125,21 +122,7 @@ void cStageWindow::OnInitDialog() {
 }
 
 void cStageWindow::BuildToolBar() {
-  QPixmap strip(kToolImage * (kStandardToolImages + 5), kToolImage);
-  strip.fill(Qt::transparent);
-  QPainter painter(&strip);
-  QStyle* style = QApplication::style();
-  for (int i = 0; i < kStandardToolImages; ++i) {
-    painter.drawPixmap(i * kToolImage, 0, style->standardIcon(kStandardImages[i]).pixmap(kToolImage, kToolImage));
-  }
-  int at = kStandardToolImages * kToolImage;
-  for (size_t s = 0; s < std::size(kToolStrips); ++s) {
-    const QImage images(QString::fromStdString(HostPath(kToolStrips[s])));
-    if (!images.isNull()) painter.drawImage(at, 0, images, 0, 0, kToolStripImages[s] * kToolImage, kToolImage);
-    at += kToolStripImages[s] * kToolImage;
-  }
-  painter.end();
-  SetToolImages(strip, kToolImage);
+  SetToolImages(ToolStrip(kStandardImages, kToolStrips, kToolImage), kToolImage);
   const std::vector<cToolButton>& buttons = StageToolButtons();
   AddToolButtons(buttons.data(), static_cast<int>(buttons.size()));
 }

@@ -37,8 +37,8 @@ bool WriteFileSafely(const std::string& path, const std::function<bool(const std
 }
 
 bool SaveRecordSafely(cSaveData& record, const std::string& path) {
-  return WriteFileSafely(path, [&record](const std::string& to) { return record.SaveFile(to) != 0; },
-                         PlacesBeside(path));
+  return WriteFileSafely(
+      path, [&record](const std::string& to) { return record.SaveFile(to) != 0; }, PlacesBeside(path));
 }
 
 }  // namespace velmora

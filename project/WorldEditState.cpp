@@ -61,7 +61,8 @@ void cEdWorldEditState::TakePick(const cEdWorldMap& map, int x, int y) {
   for (int row = 0; row < m_iBrushH; ++row) {
     for (int column = 0; column < m_iBrushW; ++column) {
       const int index = map.CellIndex(left + column, top + row);
-      if (index >= 0) m_aiBrush[static_cast<size_t>(row * kBrushRowLength + column)] = map.m_vecCells[static_cast<size_t>(index)];
+      if (index < 0) continue;
+      m_aiBrush[static_cast<size_t>(row * kBrushRowLength + column)] = map.m_vecCells[static_cast<size_t>(index)];
     }
   }
   m_bPicking = 0;

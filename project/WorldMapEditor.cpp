@@ -18,7 +18,7 @@ bool AskClear(const char* question) {
 }  // namespace
 
 cWorldSettings SettingsOf(const cEdWorldMap& map) {
-  return {map.m_nWidth,     map.m_nHeight,        map.m_iStartX,    map.m_iStartY,
+  return {map.m_nWidth,     map.m_nHeight,       map.m_iStartX,    map.m_iStartY,
           map.m_iBackColor, map.m_bUseBackImage, map.m_strBackPath};
 }
 

@@ -75,7 +75,9 @@ void DrawEvent(const cEdWorldEvent& event, cSurface& out, int left, int top) {
     const cEdWorldPage& page = event.m_vecPages.front();
     const int sx = page.m_iWorldNo != 0 ? 0 : kCell;
     const int sy = page.m_iGraphic * kCell;
-    if (OnSheet(sheet, sx, sy, kCell)) out.StretchBltFrom(left, top, kEventCell, kEventCell, sheet, sx, sy, kCell, kCell, false);
+    if (OnSheet(sheet, sx, sy, kCell)) {
+      out.StretchBltFrom(left, top, kEventCell, kEventCell, sheet, sx, sy, kCell, kCell, false);
+    }
   }
   out.SetPen(kPenSolid, 1, kEventFrameColour);
   out.Box(left, top, kEventCell, kEventCell);

@@ -14,7 +14,6 @@ namespace {
 using testing::cScriptedPrompt;
 using testing::cTempProject;
 
-
 constexpr uint64_t kPlenty = uint64_t(1) << 40;
 
 // A 20 x 15 map with ten chips, every cell 1, and an editor over it whose

@@ -8,8 +8,7 @@
 
 namespace velmora {
 
-QPixmap ToolStrip(std::span<const QStyle::StandardPixmap> standard, std::span<const cToolStripFile> files,
-                  int size) {
+QPixmap ToolStrip(std::span<const QStyle::StandardPixmap> standard, std::span<const cToolStripFile> files, int size) {
   int images = static_cast<int>(standard.size());
   for (const cToolStripFile& file : files) images += file.images;
   QPixmap strip(size * images, size);

@@ -59,7 +59,8 @@ class cListControl : public cList {
   cAccelTable Accelerators() const {
     cAccelTable table;
     for (const cListKey& entry : kListKeys) {
-      if (const int id = KeyId(entry)) table.push_back({entry.key, entry.ctrl ? Qt::ControlModifier : Qt::NoModifier, id});
+      const Qt::KeyboardModifiers modifiers = entry.ctrl ? Qt::ControlModifier : Qt::NoModifier;
+      if (const int id = KeyId(entry)) table.push_back({entry.key, modifiers, id});
     }
     return table;
   }

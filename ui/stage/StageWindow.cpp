@@ -130,16 +130,10 @@ void cStageWindow::BuildToolBar() {
 // ---- geometry ----
 
 void cStageWindow::PlaceWindow() {
-  auto* window = static_cast<cDialogWindow*>(Window());
-  QWidget* client = window->Client();
   // The first window is sized around its client: menu, tool and status
-  // bars and the scroll bars come on top of the drawing area, which then
-  // follows the window.
-  client->setFixedSize(kDefaultClientWidth, kDefaultClientHeight);
-  window->adjustSize();
-  client->setMinimumSize(kMinClientWidth, kMinClientHeight);
-  client->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-  window->move(kDefaultX, kDefaultY);
+  // bars and the scroll bars come on top of the drawing area.
+  SizeAroundClient({kDefaultClientWidth, kDefaultClientHeight}, {kMinClientWidth, kMinClientHeight});
+  Window()->move(kDefaultX, kDefaultY);
   RestorePlace();
 }
 
@@ -160,15 +154,6 @@ cViewFrame cStageWindow::Frame() const {
   return {geometry.clientWidth, geometry.clientHeight, ScrollX(), ScrollY(), stage.m_nWidth, stage.m_nHeight};
 }
 
-int cStageWindow::ScrollX() const { return HorzBar() ? HorzBar()->Position() : 0; }
-
-int cStageWindow::ScrollY() const { return VertBar() ? VertBar()->Position() : 0; }
-
-void cStageWindow::ScrollTo(int x, int y) {
-  if (HorzBar()) HorzBar()->SetPosition(x);
-  if (VertBar()) VertBar()->SetPosition(y);
-}
-
 // The view of a stage just opened, for the size the window came up with.
 void cStageWindow::ScrollToStart() {
   UpdateScrollRanges();
@@ -183,10 +168,7 @@ void cStageWindow::UpdateScrollRanges() {
   const QWidget* client = static_cast<cDialogWindow*>(Window())->Client();
   const cBarRange horz = HorzBarRange(EditStage().m_nWidth, client->width());
   const cBarRange vert = VertBarRange(EditStage().m_nHeight, client->height());
-  HorzBar()->SetRange(0, horz.maximum);
-  HorzBar()->SetPage(horz.page);
-  VertBar()->SetRange(0, vert.maximum);
-  VertBar()->SetPage(vert.page);
+  SetScrollRanges(horz.maximum, horz.page, vert.maximum, vert.page);
 }
 
 // ---- commands ----

@@ -69,9 +69,6 @@ class cStageWindow : public cDialog {
   // The status bar says whether a test play runs.
   void ShowTestPlayStatus();
   void Repaint();
-  int ScrollX() const;
-  int ScrollY() const;
-  void ScrollTo(int x, int y);
   const cCellPos& Cursor() const { return m_cursor; }
   // The last painted view, for tests and measurements.
   const cSurface& View() const { return m_view; }

@@ -14,10 +14,7 @@
 namespace velmora {
 
 void cStageWindow::RenderView() {
-  const cGeometry& geometry = Geometry();
-  const int width = std::max(geometry.clientWidth, 1);
-  const int height = std::max(geometry.clientHeight, 1);
-  if (m_view.Width() != width || m_view.Height() != height) m_view.CreateSurface(width, height, 32, false);
+  FitView(m_view, Geometry().clientWidth, Geometry().clientHeight);
   cViewOptions options;
   options.hasStage = StageEdit().m_bHasStage != 0;
   options.cursor = CursorFrame(StageEdit(), m_cursor);

@@ -47,8 +47,9 @@ bool cChipPaletteWindow::Open(const QRect& anchor) {
   // Kept on a larger desktop, or grown by a longer list: back into view.
   const QRect frame = FrameOf(*Window());
   const QRect area = WorkArea();
-  MoveFrame(*Window(), QPoint(std::clamp(frame.x(), area.left(), std::max(area.right() + 1 - frame.width(), area.left())),
-                              std::clamp(frame.y(), area.top(), std::max(area.bottom() + 1 - frame.height(), area.top()))));
+  MoveFrame(*Window(),
+            QPoint(std::clamp(frame.x(), area.left(), std::max(area.right() + 1 - frame.width(), area.left())),
+                   std::clamp(frame.y(), area.top(), std::max(area.bottom() + 1 - frame.height(), area.top()))));
   ShowWindow(*Window());
   Refresh();
   return true;

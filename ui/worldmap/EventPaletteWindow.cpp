@@ -8,10 +8,8 @@
 namespace velmora {
 namespace {
 
-enum eEventPaletteIds {
-  kIdEditIfPlaced = 1101, kIdEditBeforePlace, kIdAutoNumber, kIdList, kIdInsert, kIdEdit, kIdDelete, kIdCount,
-};
-constexpr cRecordListIds kListIds{kIdList, kIdInsert, kIdEdit, kIdDelete, 1, 24};
+using P = cEventPaletteWindow;
+constexpr cRecordListIds kListIds{P::kIdList, P::kIdInsert, P::kIdEdit, P::kIdDelete, 1, 24};
 
 }  // namespace
 

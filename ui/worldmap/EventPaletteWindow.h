@@ -11,6 +11,11 @@ namespace velmora {
 // that the map places, each edited in the event dialog.
 class cEventPaletteWindow : public cWorldPalette {
  public:
+  // The controls of the event palette.
+  enum eEventPaletteIds {
+    kIdEditIfPlaced = 1101, kIdEditBeforePlace, kIdAutoNumber, kIdList, kIdInsert, kIdEdit, kIdDelete, kIdCount,
+  };
+
   cEventPaletteWindow(cDialogManager& manager, QWidget* parent, cWindowPlace& place, const cWorldPaletteLinks& links);
 
   // Shows the window at its kept place, or right of `anchor`, the map

@@ -23,14 +23,8 @@
 namespace velmora {
 namespace {
 
-enum eEventIds {
-  kIdName = 1201, kIdPageList, kIdPageInsert, kIdPageDelete,
-  kIdCondWorld, kIdCondVar, kIdCondVarName, kIdCondValue, kIdCondOp, kIdCondScore,
-  kIdGraphic, kIdPreview, kIdType, kIdWorldName, kIdStartStage, kIdStageBrowse,
-  kIdVariation, kIdVarVar, kIdVarVarName, kIdVarValue, kIdVariationNote,
-  kIdWorldNo, kIdPassable, kIdReplayable, kIdGameClear,
-};
-constexpr cRecordListIds kPageIds{kIdPageList, kIdPageInsert, 0, kIdPageDelete, 2, 20};
+using D = cWorldEventDialog;
+constexpr cRecordListIds kPageIds{D::kIdPageList, D::kIdPageInsert, 0, D::kIdPageDelete, 2, 20};
 constexpr int kNameLimit = 20;
 constexpr int kPathLimit = 260;
 constexpr int kValueLimit = 999999;
@@ -46,17 +40,20 @@ struct cEnableRule {
   bool (*enabled)(const cEdWorldPage&);
 };
 constexpr cEnableRule kEnableRules[] = {
-    {kIdCondValue, HasCondVar}, {kIdCondOp, HasCondVar},     {kIdWorldNo, IsWorld},     {kIdWorldName, IsWorld},
-    {kIdStartStage, IsWorld},   {kIdStageBrowse, IsWorld},   {kIdVariation, IsWorld},   {kIdVarVar, VariationOn},
-    {kIdVarVarName, VariationOn}, {kIdVarValue, VariationOn}, {kIdPassable, IsWorld},   {kIdReplayable, IsWorld},
-    {kIdGameClear, IsWorld},
+    {D::kIdCondValue, HasCondVar}, {D::kIdCondOp, HasCondVar},  {D::kIdWorldNo, IsWorld},
+    {D::kIdWorldName, IsWorld},    {D::kIdStartStage, IsWorld}, {D::kIdStageBrowse, IsWorld},
+    {D::kIdVariation, IsWorld},    {D::kIdVarVar, VariationOn}, {D::kIdVarVarName, VariationOn},
+    {D::kIdVarValue, VariationOn}, {D::kIdPassable, IsWorld},   {D::kIdReplayable, IsWorld},
+    {D::kIdGameClear, IsWorld},
 };
 
 // The condition's list starts with the line for no variable, so that a row
 // is the variable's own number; the variation's list has no such line.
 cComboRows CondVarRows() {
   cComboRows rows{SysTexts({"変数条件なし"}), 0};
-  for (std::string& row : VarComboRows(cRecordVarNames<cStageVar>(g_vecCommonVar))) rows.texts.push_back(std::move(row));
+  for (std::string& row : VarComboRows(cRecordVarNames<cStageVar>(g_vecCommonVar))) {
+    rows.texts.push_back(std::move(row));
+  }
   return rows;
 }
 cComboRows VariationVarRows() { return {VarComboRows(cRecordVarNames<cStageVar>(g_vecCommonVar)), 1}; }
@@ -106,8 +103,8 @@ cWorldEventDialog::cWorldEventDialog(cDialogManager& manager, QWidget* parent, c
       {nullptr, cButtonDesc{kIdStageBrowse, "参照"}, nullptr, nullptr, true},
       {nullptr, cCheckDesc{kIdPassable, &p.m_bPassable, "クリアしなくても通行可能"}},
       {nullptr, cCheckDesc{kIdReplayable, &p.m_bReplayable, "クリア後でもプレイ可能"}},
-      {"ゲームクリア", ComboOf(kIdGameClear, &p.m_iGameClear,
-                              {SysTexts({"しない", "2周目へ突入", "タイトルへ戻る（※非推奨）"})})},
+      {"ゲームクリア",
+       ComboOf(kIdGameClear, &p.m_iGameClear, {SysTexts({"しない", "2周目へ突入", "タイトルへ戻る（※非推奨）"})})},
       FormGroup("出現条件",
                 {{"ワールド", cEditValDesc{kIdCondWorld, &p.m_iCondWorld, 0, 999}, nullptr, "をクリアする"},
                  {nullptr, cStaticDesc{0, "※「0」なら常に出現"}},
@@ -119,8 +116,8 @@ cWorldEventDialog::cWorldEventDialog(cDialogManager& manager, QWidget* parent, c
                           {SysTexts({"である", "でない", "以上", "以下", "より上", "より下", "の倍数である",
                                      "の倍数でない"})}),
                   nullptr, nullptr, true},
-                 {"トータルスコアが", cEditValDesc{kIdCondScore, &p.m_iCondScore, -kValueLimit, kValueLimit},
-                  nullptr, "以上"}}),
+                 {"トータルスコアが", cEditValDesc{kIdCondScore, &p.m_iCondScore, -kValueLimit, kValueLimit}, nullptr,
+                  "以上"}}),
       FormGroup("バリエーション",
                 {{nullptr, cCheckDesc{kIdVariation, &p.m_bVariation, "バリエーション"}},
                  {"コモン変数", ComboOf(kIdVarVar, &p.m_iVarVar, VariationVarRows())},

@@ -10,6 +10,14 @@ namespace velmora {
 // reaches that page at once. OK gives the record the edited copy.
 class cWorldEventDialog : public cRecordDialog<cEdWorldEvent> {
  public:
+  // The controls of the event dialog.
+  enum eEventIds {
+    kIdName = 1201, kIdPageList, kIdPageInsert, kIdPageDelete, kIdCondWorld, kIdCondVar, kIdCondVarName, kIdCondValue,
+    kIdCondOp, kIdCondScore, kIdGraphic, kIdPreview, kIdType, kIdWorldName, kIdStartStage, kIdStageBrowse,
+    kIdVariation, kIdVarVar, kIdVarVarName, kIdVarValue, kIdVariationNote, kIdWorldNo, kIdPassable, kIdReplayable,
+    kIdGameClear,
+  };
+
   cWorldEventDialog(cDialogManager& manager, QWidget* parent, cEdWorldEvent& event);
 
   void OnCommand(uint32_t wParam, intptr_t lParam) override;

@@ -59,7 +59,8 @@ bool cWorldMapWindow::Open(const QRect& anchor) {
   Window()->show();
   // A kept size is the frame's, which only a shown window has.
   WaitUntilShown(*Window());
-  if (PlaceOf(EditConfig::PlaceWorldMap).m_bStored) PlaceFrame(*Window(), FrameOfPlace(PlaceOf(EditConfig::PlaceWorldMap)));
+  if (PlaceOf(EditConfig::PlaceWorldMap).m_bStored)
+    PlaceFrame(*Window(), FrameOfPlace(PlaceOf(EditConfig::PlaceWorldMap)));
   UpdateScrollRanges();
   OpenPalette();
   UpdateStates();
@@ -82,18 +83,11 @@ void cWorldMapWindow::BuildToolBar() {
 
 // ---- geometry ----
 
-// The window is first sized around a client of the default size, which
-// then follows the window.
 void cWorldMapWindow::PlaceWindow(const QRect& anchor) {
-  auto* window = static_cast<cDialogWindow*>(Window());
-  QWidget* client = window->Client();
-  client->setFixedSize(kDefaultClientWidth, kDefaultClientHeight);
-  window->adjustSize();
-  client->setMinimumSize(kMinClientWidth, kMinClientHeight);
-  client->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-  MoveFrame(*window, anchor.topLeft());
+  SizeAroundClient({kDefaultClientWidth, kDefaultClientHeight}, {kMinClientWidth, kMinClientHeight});
+  MoveFrame(*Window(), anchor.topLeft());
   const cWindowPlace& place = PlaceOf(EditConfig::PlaceWorldMap);
-  if (place.m_bStored) PlaceFrame(*window, FrameOfPlace(place));
+  if (place.m_bStored) PlaceFrame(*Window(), FrameOfPlace(place));
 }
 
 cViewFrame cWorldMapWindow::Frame() const {
@@ -102,24 +96,11 @@ cViewFrame cWorldMapWindow::Frame() const {
   return {geometry.clientWidth, geometry.clientHeight, ScrollX(), ScrollY(), map.m_nWidth, map.m_nHeight};
 }
 
-int cWorldMapWindow::ScrollX() const { return HorzBar() ? HorzBar()->Position() : 0; }
-
-int cWorldMapWindow::ScrollY() const { return VertBar() ? VertBar()->Position() : 0; }
-
-void cWorldMapWindow::ScrollTo(int x, int y) {
-  if (HorzBar()) HorzBar()->SetPosition(x);
-  if (VertBar()) VertBar()->SetPosition(y);
-}
-
 void cWorldMapWindow::UpdateScrollRanges() {
-  if (!HorzBar()) return;
-  const QWidget* client = static_cast<cDialogWindow*>(Window())->Client();
-  const cBarRange horz = HorzBarRange(WorldMap().m_nWidth, client->width());
-  const cBarRange vert = VertBarRange(WorldMap().m_nHeight, client->height());
-  HorzBar()->SetRange(0, horz.maximum);
-  HorzBar()->SetPage(horz.page);
-  VertBar()->SetRange(0, vert.maximum);
-  VertBar()->SetPage(vert.page);
+  const cGeometry& geometry = Geometry();
+  const cBarRange horz = HorzBarRange(WorldMap().m_nWidth, geometry.clientWidth);
+  const cBarRange vert = VertBarRange(WorldMap().m_nHeight, geometry.clientHeight);
+  SetScrollRanges(horz.maximum, horz.page, vert.maximum, vert.page);
 }
 
 void cWorldMapWindow::OnSize() {
@@ -130,10 +111,7 @@ void cWorldMapWindow::OnSize() {
 // ---- painting ----
 
 void cWorldMapWindow::RenderView() {
-  const cGeometry& geometry = Geometry();
-  const int width = std::max(geometry.clientWidth, 1);
-  const int height = std::max(geometry.clientHeight, 1);
-  if (m_view.Width() != width || m_view.Height() != height) m_view.CreateSurface(width, height, 32, false);
+  FitView(m_view, Geometry().clientWidth, Geometry().clientHeight);
   RenderWorldView(WorldMap(), m_view, ScrollX(), ScrollY(), WorldCursorFrame(WorldEdit(), m_cursor.x, m_cursor.y));
 }
 
@@ -247,12 +225,12 @@ void cWorldMapWindow::OpenPalette() {
   ClosePalettes();
   const QRect anchor = FrameOf(*Window());
   if (chips) {
-    m_pChipPalette = std::make_unique<cChipPaletteWindow>(Manager(), Window(), PlaceOf(EditConfig::PlaceWorldChips),
-                                                          PaletteLinks());
+    m_pChipPalette =
+        std::make_unique<cChipPaletteWindow>(Manager(), Window(), PlaceOf(EditConfig::PlaceWorldChips), PaletteLinks());
     m_pChipPalette->Open(anchor);
   } else {
-    m_pEventPalette = std::make_unique<cEventPaletteWindow>(Manager(), Window(),
-                                                            PlaceOf(EditConfig::PlaceWorldEvents), PaletteLinks());
+    m_pEventPalette = std::make_unique<cEventPaletteWindow>(Manager(), Window(), PlaceOf(EditConfig::PlaceWorldEvents),
+                                                            PaletteLinks());
     m_pEventPalette->Open(anchor);
   }
 }

@@ -47,9 +47,6 @@ class cWorldMapWindow : public cDialog {
 
   void UpdateStates();
   void Repaint();
-  int ScrollX() const;
-  int ScrollY() const;
-  void ScrollTo(int x, int y);
   const cCellPos& Cursor() const { return m_cursor; }
   // The last painted view, for tests and measurements.
   const cSurface& View() const { return m_view; }

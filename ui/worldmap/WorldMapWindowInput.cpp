@@ -53,7 +53,8 @@ void cWorldMapWindow::Popup() { ShowPopup(WorldPopupMenu(m_editor, m_cursor.x, m
 void cWorldMapWindow::FollowOutsideDrag() {
   const cMouseState& mouse = Mouse();
   const cGeometry& geometry = Geometry();
-  const bool outside = mouse.x < 0 || mouse.y < 0 || mouse.x >= geometry.clientWidth || mouse.y >= geometry.clientHeight;
+  const bool outside =
+      mouse.x < 0 || mouse.y < 0 || mouse.x >= geometry.clientWidth || mouse.y >= geometry.clientHeight;
   const bool held = mouse.leftHeld || mouse.rightHeld;
   if (outside && held) EdgeScroll();
   const bool wasOutside = m_bOutsideDrag;

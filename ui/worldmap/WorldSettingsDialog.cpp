@@ -11,9 +11,6 @@
 namespace velmora {
 namespace {
 
-enum eSettingsIds {
-  kIdWidth = 1301, kIdHeight, kIdStartX, kIdStartY, kIdBackColor, kIdSwatch, kIdUseBackImage, kIdBackPath, kIdBrowse,
-};
 constexpr int kPathLimit = 260;
 constexpr int kSwatchWidth = 32;
 constexpr int kSwatchHeight = 16;

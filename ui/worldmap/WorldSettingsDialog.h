@@ -9,6 +9,12 @@ namespace velmora {
 // them, since a new size also empties the history.
 class cWorldSettingsDialog : public cRecordDialog<cWorldSettings> {
  public:
+  // The controls of the settings dialog.
+  enum eSettingsIds {
+    kIdWidth = 1301, kIdHeight, kIdStartX, kIdStartY, kIdBackColor, kIdSwatch, kIdUseBackImage, kIdBackPath,
+    kIdBrowse,
+  };
+
   cWorldSettingsDialog(cDialogManager& manager, QWidget* parent, cWorldSettings& settings);
 
  protected:

@@ -1,12 +1,15 @@
-// The world map window's work: a full repaint of a 640 x 480 view over the
-// largest map, every cell a chip and a thousand events in view and out, and
-// a chip stroke with a 3 x 3 brush across that whole map, one mouse event a
-// cell, from the press that keeps an undo state to the last move, each
-// event with the repaint of the view that follows it.
+// The world map window's work, without a display, its world numbers drawn
+// in the desktop's fonts as the editor draws them: a full repaint of a
+// 640 x 480 view over the largest map, every cell a chip and a thousand
+// events in view and out, and a chip stroke with a 3 x 3 brush across that
+// whole map, one mouse event a cell, from the press that keeps an undo
+// state to the last move, each event with the repaint that follows it.
 #include <unistd.h>
 
+#include <QApplication>
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 
 #include "ThreadClock.h"
@@ -16,6 +19,7 @@
 #include "graphics/SamplePictures.h"
 #include "graphics/worldview/WorldView.h"
 #include "project/WorldMapEditor.h"
+#include "ui/framework/QtTextRenderer.h"
 
 using namespace velmora;
 
@@ -40,12 +44,6 @@ void FillMap(cEdWorldMap& map) {
   }
 }
 
-template <class Work>
-double AverageMs(int rounds, Work work) {
-  const double start = bench::ThreadMs();
-  for (int i = 0; i < rounds; ++i) work();
-  return (bench::ThreadMs() - start) / rounds;
-}
 
 // A serpentine over every cell: the press on the first, a move on each other.
 double StrokeEventMs(cEdWorldMap& map, cSurface& view) {
@@ -70,7 +68,10 @@ double StrokeEventMs(cEdWorldMap& map, cSurface& view) {
 
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
+  setenv("QT_QPA_PLATFORM", "offscreen", 0);
+  QApplication application(argc, argv);
+  InstallQtTextRenderer();
   char folder[] = "/tmp/velmora-bench-XXXXXX";
   if (!::mkdtemp(folder)) return 1;
   std::filesystem::current_path(folder);
@@ -82,7 +83,7 @@ int main() {
   cSurface view;
   if (!view.CreateSurface(640, 480, 32, false)) return 1;
   int scroll = 0;
-  const double repaintMs = AverageMs(200, [&] {
+  const double repaintMs = bench::AverageMs(200, [&] {
     RenderWorldView(map, view, scroll % 180, scroll % 135, {scroll % 180, scroll % 135, 3, 3, 0xFF0080});
     ++scroll;
   });

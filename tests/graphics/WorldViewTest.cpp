@@ -116,5 +116,20 @@ TEST_F(WorldView, TheCursorShowsThePickRectangleOrTheBrush) {
   EXPECT_EQ(pick.colour, 0x8000FFu);
 }
 
+TEST_F(WorldView, DamagedValuesDrawNothingAndReachNoFurtherThanTheirSheets) {
+  map.m_vecChips[1].m_iGraphic = -6;
+  map.SetCell(0, 0, 1);
+  map.m_iBackColor = 5000;
+  map.m_bUseBackImage = 1;
+  PlaceEvent(1, 0, 7, 999);
+  PlaceEvent(2, 0, 0, -2);
+  map.m_vecEvents.back().m_vecPages.clear();
+  RenderWorldView(map, view, -3, 140, {});
+  map.m_bUseBackImage = 0;
+  RenderWorldView(map, view, 0, 0, {});
+  EXPECT_EQ(At(16, 16), ColourOf(ProjectPalette()[255])) << "a colour beyond the table takes its last";
+  EXPECT_EQ(At(79, 1), 0x00FFFFu) << "an event without pages still shows where it stands";
+}
+
 }  // namespace
 }  // namespace velmora::testing

@@ -145,12 +145,14 @@ void cWorldEventDialog::BindOwnControls() {
 }
 
 void cWorldEventDialog::OnCommand(uint32_t wParam, intptr_t lParam) {
-  if (CommandId(wParam) == kIdOk) {
+  const int id = CommandId(wParam);
+  if (id == kIdOk) {
     ApplyAll();
     m_pages.Store();
   }
   cRecordDialog::OnCommand(wParam, lParam);
-  if (!IsOpen() || !m_pPageList) return;
+  // OK and Cancel have closed the dialog and taken its controls.
+  if (id == kIdOk || id == kIdCancel || !m_pPageList) return;
   m_pPageList->StoreIfFieldChanged(wParam);
   FollowPageType();
   UpdateEnables();

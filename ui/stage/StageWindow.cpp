@@ -24,6 +24,7 @@
 #include "ui/framework/QtText.h"
 #include "ui/framework/WindowFrame.h"
 #include "ui/stage/NewStageDialog.h"
+#include "ui/system/SystemSheet.h"
 
 namespace velmora {
 namespace {
@@ -99,6 +100,7 @@ void cStageWindow::OpenPalettes() {
       UpdateStates();
     });
   }
+  InstallSystemWindow(*this);
 }
 
 bool cStageWindow::IsChecked(const cStageCommand& command) const {

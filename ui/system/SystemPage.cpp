@@ -1,0 +1,48 @@
+#include "ui/system/SystemPage.h"
+
+#include <QBoxLayout>
+
+#include "ui/controls/Button.h"
+#include "ui/system/SystemPageIds.h"
+
+namespace velmora {
+
+cSystemPage::cSystemPage(cDialogManager& manager, cEdSystem& work, const char* logName)
+    : cDialog(manager, nullptr), m_work(work) {
+  SetLogName(logName);
+  m_form.okCancel = false;  // the sheet's
+}
+
+// The sheet gives every page the size of the largest: the rows keep to the
+// top and the room that is left stays below them.
+void cSystemPage::BuildClient(QWidget& client) {
+  cDialog::BuildClient(client);
+  if (auto* column = qobject_cast<QBoxLayout*>(client.layout())) column->addStretch(1);
+}
+
+bool cSystemPage::IsChecked(int id) const {
+  const cCheck* check = FindControlOf<cCheck>(id);
+  return check && check->IsChecked();
+}
+
+void cSystemPage::ClearCheck(int id) {
+  if (cCheck* check = FindControlOf<cCheck>(id)) check->SetChecked(false);
+}
+
+cEditValDesc SpinEdit(int id, cValueField field, int minimum, int maximum) {
+  return cEditValDesc{id, field, static_cast<double>(minimum), static_cast<double>(maximum), id + kSystemSpinOffset, 1};
+}
+
+cEditStrDesc CharsEdit(int id, cTextField field, int chars) {
+  cEditStrDesc desc = EditStrLine(id, field, chars, true);
+  desc.byteLimit = 2 * chars;
+  return desc;
+}
+
+cFormRow CheckRow(int id, cValueField field, const char* text) {
+  return {nullptr, cCheckDesc{id, field, text, true}};
+}
+
+cFormRow NoteRow(const char* text) { return {nullptr, cStaticDesc{0, text}}; }
+
+}  // namespace velmora

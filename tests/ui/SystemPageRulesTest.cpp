@@ -34,5 +34,43 @@ TEST_F(SystemPageRules, ModesPageDisablesWhatItsChecksLeaveWithoutMeaning) {
   EXPECT_EQ(1, saved.m_vecRanking[1].m_abColumns[2]) << "a disabled column keeps its value";
 }
 
+TEST_F(SystemPageRules, AStatThatIsNotKeptHasNothingToReset) {
+  Run([&](cSystemSheet&) {
+    EXPECT_TRUE(Enabled(2, kIdStockReset + 0));
+    EXPECT_FALSE(Enabled(2, kIdStockReset + 11)) << "remaining HP isn't kept in the sample";
+    EXPECT_TRUE(Checked(2, kIdStockReset + 11));
+    Click(2, kIdStock + 0);
+    EXPECT_FALSE(Enabled(2, kIdStockReset + 0));
+  }, false);
+}
+
+TEST_F(SystemPageRules, StatusItemsFollowShowAndSymbolAndMenuEntriesTheirChecks) {
+  Run([&](cSystemSheet&) {
+    // The sample shows every item with its symbol.
+    EXPECT_TRUE(Enabled(3, kIdGaugeSymbol));
+    EXPECT_FALSE(Enabled(3, kIdGaugeText)) << "the symbol stands in its place";
+    EXPECT_EQ(Text(3, kIdGaugeText), QString::fromUtf8("スコア")) << "and its text is kept";
+    EXPECT_TRUE(Enabled(3, kIdGaugeDigits));
+    Click(3, kIdGaugeSymbol);
+    EXPECT_TRUE(Enabled(3, kIdGaugeText));
+    Click(3, kIdGaugeShow);
+    for (int id : {kIdGaugeSymbol, kIdGaugeText, kIdGaugeDigits}) EXPECT_FALSE(Enabled(3, id)) << id;
+
+    EXPECT_TRUE(Enabled(3, kIdGaugeShowValue + 2));
+    Click(3, kIdGaugeShow + 2);
+    EXPECT_FALSE(Enabled(3, kIdGaugeShowValue + 2)) << "a bar has no count of digits";
+    EXPECT_TRUE(Enabled(3, kIdGaugeThreshold + 2));
+
+    Click(3, kIdOptionMenuOn + 8);
+    EXPECT_FALSE(Enabled(3, kIdOptionMenuText + 8));
+    EXPECT_TRUE(Enabled(3, kIdOptionMenuText + 7));
+  }, true);
+  const cEdSystem& saved = SystemRecord();
+  EXPECT_EQ(0, saved.m_vecGauges[0].m_bShow);
+  EXPECT_EQ(0, saved.m_vecGauges[0].m_bSymbol);
+  EXPECT_EQ(0, saved.m_vecOptionMenu[8].m_bEnabled);
+  EXPECT_EQ(saved.m_vecOptionMenu[8].m_strText, cEdSystem().m_vecOptionMenu[8].m_strText);
+}
+
 }  // namespace
 }  // namespace velmora::testing

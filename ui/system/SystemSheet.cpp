@@ -15,6 +15,8 @@ cSystemSheet::cSystemSheet(cDialogManager& manager, QWidget* owner)
   m_work.CheckBgmIndices();
   AddPage(MakeGeneralPage(manager, m_work), QStringLiteral("1"));
   AddPage(MakeModesPage(manager, m_work), QStringLiteral("2"));
+  AddPage(MakeSoundsPage(manager, m_work), QStringLiteral("3"));
+  AddPage(MakeStatusPage(manager, m_work), QStringLiteral("4"));
 }
 
 // The pages have always been stored twice over before the save, so that a

@@ -17,6 +17,11 @@ cSystemSheet::cSystemSheet(cDialogManager& manager, QWidget* owner)
   AddPage(MakeModesPage(manager, m_work), QStringLiteral("2"));
   AddPage(MakeSoundsPage(manager, m_work), QStringLiteral("3"));
   AddPage(MakeStatusPage(manager, m_work), QStringLiteral("4"));
+  AddPage(MakeTermsPage(manager, m_work), QStringLiteral("5"));
+  AddPage(MakeIniPage(manager, m_work), QStringLiteral("6"));
+  for (int part = 0; part < kCompatPageCount; ++part) {
+    AddPage(MakeCompatPage(manager, m_work, part), QString::number(7 + part));
+  }
 }
 
 // The pages have always been stored twice over before the save, so that a

@@ -1,5 +1,7 @@
 #include "ui/controls/Combo.h"
 
+#include <QSignalBlocker>
+
 #include "ui/framework/Commands.h"
 #include "ui/framework/QtText.h"
 
@@ -22,10 +24,9 @@ cCombo::cCombo(cDialog& parent, QComboBox* box, const cComboDesc& desc)
     : cControl(eControlKind::Combo, desc.id, parent, box),
       m_pBox(box),
       m_field(desc.field),
-      m_map(desc.offset, desc.conversion, static_cast<int>(desc.texts.size()), FieldBytes(desc.field.Type())),
+      m_map(desc.offset, desc.conversion, 0, FieldBytes(desc.field.Type())),
       m_bAdjust(desc.adjust) {
-  box->clear();
-  for (const std::string& text : desc.texts) box->addItem(FromCp932(text));
+  SetRows({desc.texts, desc.offset, desc.conversion});
   Listen(box, &QComboBox::activated, [this] { SendCommand(kNoticeSelChange); });
   Refresh();
 }
@@ -33,8 +34,24 @@ cCombo::cCombo(cDialog& parent, QComboBox* box, const cComboDesc& desc)
 void cCombo::Refresh() {
   if (!m_field.IsBound()) return;
   if (m_bAdjust) Adjust();
-  const int position = m_map.DataToPos(static_cast<int>(m_field.Get()));
-  m_pBox->setCurrentIndex(position >= 0 && position < m_pBox->count() ? position : -1);
+  ShowField();
+}
+
+bool cCombo::ShowField() {
+  const int position = m_field.IsBound() ? m_map.DataToPos(static_cast<int>(m_field.Get())) : -1;
+  const bool held = position >= 0 && position < m_pBox->count();
+  m_pBox->setCurrentIndex(held ? position : -1);
+  return held;
+}
+
+bool cCombo::SetRows(const cComboRows& rows) {
+  {
+    const QSignalBlocker quiet(m_pBox);
+    m_pBox->clear();
+    for (const std::string& text : rows.texts) m_pBox->addItem(FromCp932(text));
+  }
+  m_map = cComboMap(rows.offset, rows.conversion, static_cast<int>(rows.texts.size()), FieldBytes(m_field.Type()));
+  return ShowField();
 }
 
 void cCombo::Commit() {

@@ -94,6 +94,12 @@ class cDialog {
   void BindControls(const cForm& form);
   void AddControl(std::unique_ptr<cControl> control);
   cControl* FindControl(int id) const;  // null when none
+  // The control of an id as its own class (a cCombo to refill, a list);
+  // null when the id has none of that class.
+  template <class T>
+  T* FindControlOf(int id) const {
+    return dynamic_cast<T*>(FindControl(id));
+  }
   // Null, after the missing-control stop, when the dialog holds no such id.
   cControl* Control(int id) const;
   QWidget* Item(int id) const;
@@ -147,7 +153,8 @@ class cDialog {
 
  protected:
   // After ApplyAll at OK: the dialog's own apply and validation. False
-  // keeps the dialog open.
+  // keeps the dialog open, with the fields already written: a dialog that
+  // validates a record derives from cRecordDialog, which edits a copy.
   virtual bool OnApply() { return true; }
   // A command that the closing rule and the controls left over.
   virtual void OnDialogCommand(int /*id*/, int /*notice*/) {}

@@ -49,6 +49,8 @@ class cListEdit {
   // unless the class has a set-up of its own.
   DefaultFn m_SetDefaults = [](Element& e) { e = Element{}; };
 
+  virtual ~cListEdit() = default;
+
   int Count() const { return m_lpData ? static_cast<int>(m_lpData->size()) - m_nHead : 0; }
   int RowCount() const { return Count() + (m_bTailRow ? 1 : 0); }
   bool IsRealRow(int row) const { return row >= 0 && row < Count(); }
@@ -152,7 +154,8 @@ class cListEdit {
     return true;
   }
 
-  bool Paste() {
+  // Insert and Paste are where a list with dialogs of its own adds its rules.
+  virtual bool Paste() {
     if (m_nSel < 0 || m_nSel >= RowCount() || !m_lpData) return Beep();
     if (Full()) return Beep();
     for (size_t i = 0; i < m_vecBuffer.size(); ++i) {
@@ -178,7 +181,7 @@ class cListEdit {
     return true;
   }
 
-  bool Insert() {
+  virtual bool Insert() {
     if (!m_lpData || Full()) return Beep();
     const int row = m_nSel < 0 ? 0 : m_nSel;
     Element blank{};

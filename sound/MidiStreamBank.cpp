@@ -32,7 +32,7 @@ void cMidiStreamBank::Clear() {
   m_vecPlayers.clear();
 }
 
-cMidiStreamPlayer* cMidiStreamBank::Player(int channel) { return VecAt(m_vecPlayers, channel).get(); }
+cMidiStreamPlayer* cMidiStreamBank::Player(int channel) const { return VecAt(m_vecPlayers, channel).get(); }
 
 void cMidiStreamBank::DestroyPlayers() {
   for (auto& player : m_vecPlayers) player.reset();

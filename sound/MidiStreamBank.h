@@ -19,7 +19,7 @@ class cMidiStreamBank {
   void StopAll(bool pause);
   // Destroys every player and leaves no slot.
   void Clear();
-  cMidiStreamPlayer* Player(int channel);
+  cMidiStreamPlayer* Player(int channel) const;
 
  private:
   void DestroyPlayers();

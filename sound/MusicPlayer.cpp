@@ -109,6 +109,13 @@ int cMusicPlayer::CheckedTrack(int track) const {
 
 int cMusicPlayer::Playing(int channel) const { return VecAt(m_vecPlaying, channel); }
 
+bool cMusicPlayer::IsSounding(int channel) const {
+  if (!m_bReady) return false;
+  const cOggVoice* voice = m_cVox.Voice(channel);
+  const cMidiStreamPlayer* song = m_cStreams.Player(channel);
+  return (voice && voice->IsPlaying()) || (song && song->State() == cMidiStreamPlayer::kPlaying);
+}
+
 bool cMusicPlayer::StartOgg(int channel, int track, bool loop) {
   const cOggTrackRow& row = m_pOggTracks[track];
   return m_cVox.Start(channel, row.path, loop, row.volume) == 1;

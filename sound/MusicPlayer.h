@@ -41,6 +41,9 @@ class cMusicPlayer {
 
   int Current() const { return m_iCurrent; }
   int Playing(int channel) const;
+  // Whether the channel's ogg voice or MIDI song still sounds; Playing
+  // tells only what was started last.
+  bool IsSounding(int channel) const;
 
  private:
   int CheckedTrack(int track) const;

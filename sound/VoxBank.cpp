@@ -35,6 +35,6 @@ void cVoxBank::Destroy() {
   m_iPlaying = -1;
 }
 
-cOggVoice* cVoxBank::Voice(int channel) { return VecAt(m_vecVoices, channel).get(); }
+cOggVoice* cVoxBank::Voice(int channel) const { return VecAt(m_vecVoices, channel).get(); }
 
 }  // namespace velmora

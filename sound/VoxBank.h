@@ -17,7 +17,7 @@ class cVoxBank {
   // Stops the voice that plays, if any.
   void Stop();
   void Destroy();
-  cOggVoice* Voice(int channel);
+  cOggVoice* Voice(int channel) const;
 
  private:
   std::vector<std::unique_ptr<cOggVoice>> m_vecVoices;

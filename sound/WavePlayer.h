@@ -21,6 +21,9 @@ class cWavePlayer {
   void Start(OwnerWindow window, int row, bool notify, bool resume, uint32_t from);
   void Halt(bool pause);
   void Close();
+  // The row started last and not halted since, -1 for none; a sound that
+  // ended by itself still counts.
+  int PlayingRow() const { return m_iPlaying; }
 
  private:
   struct cOpenRow {

@@ -3,6 +3,7 @@
 #include "core/ListCommands.h"
 #include "core/ListEdit.h"
 #include "core/ListMove.h"
+#include "support/BeepCounter.h"
 
 namespace velmora {
 namespace {
@@ -12,24 +13,13 @@ struct sItem {
   bool operator==(const sItem&) const = default;
 };
 
-class cBeepCounter : public cAppControl {
- public:
-  int beeps = 0;
-  void PostCloseRequest() override {}
-  void DestroyMainWindow() override {}
-  void Beep() override { ++beeps; }
-  [[noreturn]] void EndProcess(int) override { std::abort(); }
-};
-
 class ListEdit : public ::testing::Test {
  protected:
   void SetUp() override {
-    SetAppControl(&control);
     list.m_lpData = &data;
     list.m_lpWork = &work;
     list.m_RowText = [](int, const sItem& e) { return std::to_string(e.value); };
   }
-  void TearDown() override { SetAppControl(nullptr); }
   void Fill(std::initializer_list<int> values) {
     data.clear();
     for (int v : values) data.push_back({v});
@@ -47,7 +37,7 @@ class ListEdit : public ::testing::Test {
     list.m_nSel = sel;
   }
 
-  cBeepCounter control;
+  testing::cBeepCounter control;
   std::vector<sItem> data;
   sItem work{-1};
   cListEdit<sItem> list;

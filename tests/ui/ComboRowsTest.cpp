@@ -34,7 +34,8 @@ TEST(ComboRows, RecordTablesAndFlagValuesGiveTheirLabels) {
   EXPECT_EQ(flags.offset, 1);
   ASSERT_EQ(flags.texts.size(), 6u);
   for (int row = 1; row <= 6; ++row) {
-    EXPECT_STREQ(flags.texts[static_cast<size_t>(row - 1)].c_str(), SysText(CharaFlagTable[static_cast<size_t>(row)].label));
+    EXPECT_STREQ(flags.texts[static_cast<size_t>(row - 1)].c_str(),
+                 SysText(CharaFlagTable[static_cast<size_t>(row)].label));
   }
   const cFlagInfo& giant = CharaFlagTable[kFlagGiant];
   const cComboRows values = LabelRows(cLabelTable{giant.values, giant.min});

@@ -22,7 +22,7 @@ class cTurnDialog : public cRecordDialog<cEdCmd> {
     PrepareWork(Work());
     m_form.rows = {
         {"実行時間", cEditValDesc{kIdTime, &Work().m_nTime, 1, 9999, 0, 1}},
-        {"向き", ComboOf(kIdTurn, &Work().m_vParam[0], LabelRows(TurnTable), true)},
+        {"向き", ComboOf(kIdTurn, &Work().m_vParam[0], LabelRows(TurnTable))},
         {"高さ", cEditValDesc{kIdHeight, &Work().m_vParam[1], 1, 20, 0, 1}},
     };
   }

@@ -29,7 +29,7 @@ cComboRows TextRows(const std::vector<std::string>& texts, int firstRow) {
 }
 
 cComboDesc ComboOf(int id, cValueField field, cComboRows rows, bool adjust) {
-  return cComboDesc{id, field, std::move(rows.texts), rows.offset, rows.conversion, adjust};
+  return cComboDesc{id, field, std::move(rows.texts), rows.offset, rows.conversion, adjust && !rows.conversion};
 }
 
 }  // namespace velmora

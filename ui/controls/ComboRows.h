@@ -52,7 +52,10 @@ cComboRows LabelRows(std::span<const Row> table, int firstRow = 0, int count = k
 // from `firstRow` on.
 cComboRows TextRows(const std::vector<std::string>& texts, int firstRow = 0);
 
-// The descriptor of a combo box over `rows`.
-cComboDesc ComboOf(int id, cValueField field, cComboRows rows, bool adjust = false);
+// The descriptor of a combo box over `rows`. With `adjust` a field outside
+// the rows, as a damaged file can leave it, is forced to the nearest row
+// whenever the combo shows it (bind such a combo to a working copy, see
+// cRecordDialog); rows with a conversion table are never adjusted.
+cComboDesc ComboOf(int id, cValueField field, cComboRows rows, bool adjust = true);
 
 }  // namespace velmora

@@ -41,6 +41,10 @@ class cControl {
   virtual void OnKillFocus() {}
   virtual void OnAfterCommand() {}
   virtual void OnKey(int /*key*/, bool /*ctrl*/) {}
+  // A command of the dialog that the control answers although it isn't
+  // its own id: the buttons, menu entries and keys of a record list. True
+  // when the control took it; the dialog then does nothing more with it.
+  virtual bool TakeCommand(int /*id*/) { return false; }
 
   eControlKind Kind() const { return m_kind; }
   int Id() const { return m_nId; }

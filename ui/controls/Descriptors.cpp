@@ -38,6 +38,52 @@ int DescriptorId(const cControlDesc& desc) {
   return std::visit([](const auto& d) { return d.id; }, desc);
 }
 
+namespace {
+
+cFormRow BlockRow(cFormBlock::eKind kind, const char* title, std::vector<std::vector<cFormRow>> columns) {
+  cFormRow row;
+  row.block = std::make_shared<const cFormBlock>(cFormBlock{kind, title, std::move(columns)});
+  return row;
+}
+
+void CollectControlRows(const std::vector<cFormRow>& rows, std::vector<const cFormRow*>& out) {
+  for (const cFormRow& row : rows) {
+    if (!row.block) {
+      out.push_back(&row);
+      continue;
+    }
+    for (const std::vector<cFormRow>& column : row.block->columns) CollectControlRows(column, out);
+  }
+}
+
+}  // namespace
+
+cFormRow FormGroup(const char* title, std::vector<cFormRow> rows) {
+  return BlockRow(cFormBlock::kGroup, title, {std::move(rows)});
+}
+
+cFormRow FormColumns(std::vector<std::vector<cFormRow>> columns) {
+  return BlockRow(cFormBlock::kColumns, nullptr, std::move(columns));
+}
+
+cFormRow FormScroll(std::vector<cFormRow> rows) { return BlockRow(cFormBlock::kScroll, nullptr, {std::move(rows)}); }
+
+cFormRow FormRows(std::vector<cFormRow> rows) { return BlockRow(cFormBlock::kInline, nullptr, {std::move(rows)}); }
+
+std::vector<cFormRow> RepeatRows(int count, const std::function<std::vector<cFormRow>(int index)>& make) {
+  std::vector<cFormRow> rows;
+  for (int index = 0; index < count; ++index) {
+    for (cFormRow& row : make(index)) rows.push_back(std::move(row));
+  }
+  return rows;
+}
+
+std::vector<const cFormRow*> ControlRows(const std::vector<cFormRow>& rows) {
+  std::vector<const cFormRow*> out;
+  CollectControlRows(rows, out);
+  return out;
+}
+
 std::vector<std::string> SysTexts(std::initializer_list<const char*> utf8) {
   std::vector<std::string> texts;
   for (const char* text : utf8) texts.emplace_back(SysText(text));

@@ -4,10 +4,12 @@
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
+#include <memory>
 #include <string>
 #include <variant>
 #include <vector>
 
+#include "objects/RefSizes.h"
 #include "ui/controls/ValueField.h"
 
 namespace velmora {
@@ -104,19 +106,65 @@ struct cCustomDesc {
   std::function<QWidget*(QWidget* parent)> make;
 };
 
+// The "再生" button beside a choice of the Sound or Bgm list: it plays the
+// row that the combo box `comboId` shows, chosen or committed, tells
+// "読み込み失敗！" when the file can't be played, and stops what it started
+// when the dialog closes.
+struct cSoundPreviewDesc {
+  int id = 0;
+  eDbList list = eDbList::Sound;
+  int comboId = 0;
+};
+
 using cControlDesc = std::variant<cButtonDesc, cEditValDesc, cEditStrDesc, cPictureDesc, cCheckDesc, cComboDesc,
-                                  cSliderDesc, cStaticDesc, cCustomDesc>;
+                                  cSliderDesc, cStaticDesc, cCustomDesc, cSoundPreviewDesc>;
 
 int DescriptorId(const cControlDesc& desc);
 
-// One line of a dialog's table: the control with the words around it.
+struct cFormBlock;
+
+// One line of a dialog's table: the control with the words around it, or
+// a block of rows that stands as one line of its own (see the builders
+// below).
 struct cFormRow {
   const char* label = nullptr;   // UTF-8, left of the control
   cControlDesc control;
   const char* group = nullptr;   // rows with the same group share a frame
   const char* suffix = nullptr;  // UTF-8, right of the control (a unit)
   bool sameLine = false;         // stands right of the previous row
+  // Set by the builders: the row is this block, and its own label,
+  // control, suffix and sameLine are not read. Its group still places it.
+  std::shared_ptr<const cFormBlock> block = nullptr;
 };
+
+// Rows laid out together, apart from the lines around them.
+struct cFormBlock {
+  enum eKind {
+    kInline,   // the rows go on in the surrounding lines, as if written there
+    kGroup,    // the rows in a frame with a title
+    kColumns,  // columns side by side, each with its own label column
+    kScroll,   // the rows scroll where the window would outgrow the screen
+  };
+  eKind kind = kInline;
+  const char* title = nullptr;                 // UTF-8, of a group
+  std::vector<std::vector<cFormRow>> columns;  // one column but for kColumns
+};
+
+// Builders of the blocks, so that a dialog of a hundred fields is still a
+// table. They nest: a group in a column of a scroll area is one row there.
+cFormRow FormGroup(const char* title, std::vector<cFormRow> rows);
+cFormRow FormColumns(std::vector<std::vector<cFormRow>> columns);
+cFormRow FormScroll(std::vector<cFormRow> rows);
+// Rows spliced in where the row stands, such as those of RepeatRows.
+cFormRow FormRows(std::vector<cFormRow> rows);
+// The rows of `make(i)` for each i from 0 to count - 1, in that order: a
+// block of rows repeated from a table, its ids and fields taken from i.
+// Labels are UTF-8 pointers that must outlive the dialog (a static table).
+std::vector<cFormRow> RepeatRows(int count, const std::function<std::vector<cFormRow>(int index)>& make);
+
+// Every row of `rows` that holds a control, blocks opened, in table order:
+// a block's columns from left to right, each from top to bottom.
+std::vector<const cFormRow*> ControlRows(const std::vector<cFormRow>& rows);
 
 // A dialog's whole table. The same rows build the window's layout and bind
 // its fields, so a dialog is mostly this data.

@@ -14,6 +14,7 @@
 
 #include "ui/controls/EditStr.h"
 #include "ui/controls/EditWidgets.h"
+#include "ui/controls/FormScrollArea.h"
 #include "ui/controls/TextReflow.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/ItemMap.h"
@@ -91,6 +92,7 @@ class cWidgetMaker {
   void operator()(const cComboDesc& d) { Add(d.id, new QComboBox(&m_parent), false); }
   void operator()(const cSliderDesc& d) { Add(d.id, new QSlider(Qt::Horizontal, &m_parent), true); }
   void operator()(const cStaticDesc& d) { Add(d.id, new QLabel(Ui(d.text), &m_parent), true); }
+  void operator()(const cSoundPreviewDesc& d) { Add(d.id, new QPushButton(Ui("再生"), &m_parent), false); }
   void operator()(const cCustomDesc& d) {
     if (d.make) Add(d.id, d.make(&m_parent), true);
   }
@@ -112,25 +114,53 @@ bool SameGroup(const char* a, const char* b) {
   return std::strcmp(a, b) == 0;
 }
 
-// Rows go into the client's grid, or into the grid of their group's frame.
+// Rows go into the grid of the column they stand in, or into the grid of
+// their group's frame; a block opens a builder of its own for its rows.
 class cFormBuilder {
  public:
-  cFormBuilder(QWidget& client, cItemMap& items) : m_client(client), m_items(items) {
-    m_pColumn = new QVBoxLayout(&client);
+  cFormBuilder(QWidget& parent, QVBoxLayout& column, cItemMap& items)
+      : m_parent(parent), m_items(items), m_column(column) {}
+
+  void AddRows(const std::vector<cFormRow>& rows) {
+    for (const cFormRow& row : rows) AddRow(row);
   }
 
   void AddRow(const cFormRow& row) {
+    if (row.block && row.block->kind == cFormBlock::kInline) {
+      AddRows(row.block->columns.front());
+      return;
+    }
     if (!m_pGrid || !SameGroup(row.group, m_pGroup)) StartGroup(row.group);
+    if (row.block) {
+      AddBlock(*row.block);
+      return;
+    }
     if (!row.sameLine || !m_pLine) {
       StartLine(row.label);
     } else if (row.label) {
-      Append(*m_pLine, new QLabel(Ui(row.label), &m_client), false);
+      Append(*m_pLine, new QLabel(Ui(row.label), Container()), false);
     }
-    cWidgetMaker maker(m_client, *m_pLine, m_items);
+    cWidgetMaker maker(*Container(), *m_pLine, m_items);
     std::visit(maker, row.control);
-    if (row.suffix) Append(*m_pLine, new QLabel(Ui(row.suffix), &m_client), false);
+    if (row.suffix) Append(*m_pLine, new QLabel(Ui(row.suffix), Container()), false);
   }
 
+  void AddOkCancel() {
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    auto* ok = new QPushButton(Ui("OK"), &m_parent);
+    ok->setDefault(true);
+    auto* cancel = new QPushButton(Ui("キャンセル"), &m_parent);
+    cancel->setAutoDefault(false);
+    m_items.Set(kIdOk, ok);
+    m_items.Set(kIdCancel, cancel);
+    buttons->addWidget(ok);
+    buttons->addWidget(cancel);
+    m_column.addStretch(1);
+    m_column.addLayout(buttons);
+  }
+
+ private:
   // A line of controls, with its label in the left column, or above it
   // across the form when the label is too long for the column.
   void StartLine(const char* label) {
@@ -142,59 +172,90 @@ class cFormBuilder {
       return;
     }
     const QString text = Ui(label);
-    if (FitsLabelColumn(text, m_client.fontMetrics())) {
-      m_pGrid->addWidget(new QLabel(text, &m_client), r, 0);
+    if (FitsLabelColumn(text, m_parent.fontMetrics())) {
+      m_pGrid->addWidget(new QLabel(text, Container()), r, 0);
       m_pGrid->addLayout(m_pLine, r, 1);
       return;
     }
-    m_pGrid->addWidget(new cWrappingLabel(text, &m_client), r, 0, 1, 2);
+    m_pGrid->addWidget(new cWrappingLabel(text, Container()), r, 0, 1, 2);
     m_pGrid->addLayout(m_pLine, r + 1, 0, 1, 2);
   }
 
-  void AddOkCancel() {
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    auto* ok = new QPushButton(Ui("OK"), &m_client);
-    ok->setDefault(true);
-    auto* cancel = new QPushButton(Ui("キャンセル"), &m_client);
-    cancel->setAutoDefault(false);
-    m_items.Set(kIdOk, ok);
-    m_items.Set(kIdCancel, cancel);
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
-    m_pColumn->addStretch(1);
-    m_pColumn->addLayout(buttons);
-  }
-
- private:
   void StartGroup(const char* group) {
     m_pGroup = group;
     m_pLine = nullptr;
     m_pGrid = new QGridLayout;
     m_pGrid->setColumnStretch(1, 1);
+    m_pFrame = nullptr;
     if (!group) {
-      m_pColumn->addLayout(m_pGrid);
+      m_column.addLayout(m_pGrid);
       return;
     }
-    auto* frame = new QGroupBox(Ui(group), &m_client);
-    frame->setLayout(m_pGrid);
-    m_pColumn->addWidget(frame);
+    m_pFrame = new QGroupBox(Ui(group), &m_parent);
+    m_pFrame->setLayout(m_pGrid);
+    m_column.addWidget(m_pFrame);
   }
 
-  QWidget& m_client;
+  // A block is a line of its own across the label and control columns.
+  void AddBlock(const cFormBlock& block) {
+    m_pLine = nullptr;
+    const int r = m_pGrid->rowCount();
+    switch (block.kind) {
+      case cFormBlock::kGroup: {
+        auto* frame = new QGroupBox(Ui(block.title ? block.title : ""), Container());
+        BuildColumn(*frame, block.columns.front());
+        m_pGrid->addWidget(frame, r, 0, 1, 2);
+        break;
+      }
+      case cFormBlock::kColumns: {
+        auto* side = new QHBoxLayout;
+        for (const std::vector<cFormRow>& rows : block.columns) {
+          auto* column = new QWidget(Container());
+          BuildColumn(*column, rows)->setContentsMargins(0, 0, 0, 0);
+          side->addWidget(column, 1, Qt::AlignTop);
+        }
+        m_pGrid->addLayout(side, r, 0, 1, 2);
+        break;
+      }
+      case cFormBlock::kScroll: {
+        auto* rows = new QWidget;
+        BuildColumn(*rows, block.columns.front());
+        m_pGrid->addWidget(new cFormScrollArea(Container(), rows), r, 0, 1, 2);
+        m_pGrid->setRowStretch(r, 1);
+        break;
+      }
+      case cFormBlock::kInline: break;
+    }
+  }
+
+  // The rows as a column of their own inside `widget`.
+  QVBoxLayout* BuildColumn(QWidget& widget, const std::vector<cFormRow>& rows) {
+    auto* column = new QVBoxLayout(&widget);
+    cFormBuilder inner(widget, *column, m_items);
+    inner.AddRows(rows);
+    return column;
+  }
+
+  // Where the widgets of the present line are made.
+  QWidget* Container() const { return m_pFrame ? static_cast<QWidget*>(m_pFrame) : &m_parent; }
+
+  QWidget& m_parent;
   cItemMap& m_items;
-  QVBoxLayout* m_pColumn;
+  QVBoxLayout& m_column;
   QGridLayout* m_pGrid = nullptr;
   QHBoxLayout* m_pLine = nullptr;
+  QGroupBox* m_pFrame = nullptr;
   const char* m_pGroup = nullptr;
 };
 
 }  // namespace
 
 void LayoutForm(const cForm& form, QWidget& client, cItemMap& items) {
-  cFormBuilder builder(client, items);
-  for (const cFormRow& row : form.rows) builder.AddRow(row);
+  auto* column = new QVBoxLayout(&client);
+  cFormBuilder builder(client, *column, items);
+  builder.AddRows(form.rows);
   if (form.okCancel) builder.AddOkCancel();
+  FitFormToScreen(client);
 }
 
 }  // namespace velmora

@@ -25,6 +25,7 @@
 #include "ui/controls/Picture.h"
 #include "ui/controls/ScrollBar.h"
 #include "ui/controls/Slider.h"
+#include "ui/controls/SoundPreviewButton.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/DialogManager.h"
 #include "ui/framework/DialogWindow.h"
@@ -211,17 +212,22 @@ void cDialog::OnInitDialog() {
 namespace {
 
 // The order in which a dialog binds its kinds of controls.
-enum eDescIndex { kDescButton, kDescEditVal, kDescEditStr, kDescPicture, kDescCheck, kDescCombo, kDescSlider };
-constexpr eDescIndex kBindOrder[] = {kDescEditVal, kDescEditStr, kDescCheck, kDescCombo,
-                                     kDescButton,  kDescSlider,  kDescPicture};
+enum eDescIndex {
+  kDescButton, kDescEditVal, kDescEditStr, kDescPicture, kDescCheck, kDescCombo, kDescSlider, kDescStatic,
+  kDescCustom, kDescSoundPreview,
+};
+constexpr eDescIndex kBindOrder[] = {kDescEditVal, kDescEditStr, kDescCheck,  kDescCombo,
+                                     kDescButton,  kDescSoundPreview, kDescSlider, kDescPicture};
 
 }  // namespace
 
 void cDialog::BindControls(const cForm& form) {
   std::vector<cButtonDesc> buttons;
   if (form.okCancel) buttons = {{kIdOk, ""}, {kIdCancel, ""}};
+  const std::vector<const cFormRow*> rows = ControlRows(form.rows);
   for (eDescIndex kind : kBindOrder) {
-    for (const cFormRow& row : form.rows) {
+    for (const cFormRow* rowPointer : rows) {
+      const cFormRow& row = *rowPointer;
       if (row.control.index() != static_cast<size_t>(kind)) continue;
       const int id = DescriptorId(row.control);
       QWidget* widget = Item(id);
@@ -267,6 +273,12 @@ void cDialog::BindControls(const cForm& form) {
           AddControl(std::make_unique<cSlider>(*this, qobject_cast<QSlider*>(widget),
                                                std::get<cSliderDesc>(row.control)));
           break;
+        case kDescSoundPreview:
+          AddControl(std::make_unique<cSoundPreviewButton>(*this, qobject_cast<QAbstractButton*>(widget),
+                                                           std::get<cSoundPreviewDesc>(row.control)));
+          break;
+        case kDescStatic:
+        case kDescCustom: break;
       }
     }
     if (kind == kDescButton) {
@@ -394,8 +406,15 @@ void cDialog::OnCommand(uint32_t wParam, intptr_t lParam) {
     Close(0);
     return;
   }
-  OnDialogCommand(id, CommandNotice(wParam));
+  if (!OfferToControls(id)) OnDialogCommand(id, CommandNotice(wParam));
   if (IsOpen() && FindChanged(wParam) != 0) UpdateEnables();
+}
+
+bool cDialog::OfferToControls(int id) {
+  for (size_t i = 0; i < m_vecControl.size(); ++i) {
+    if (m_vecControl[i]->TakeCommand(id)) return true;
+  }
+  return false;
 }
 
 void cDialog::Notify(int id, const cNotice& notice) {

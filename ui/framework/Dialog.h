@@ -188,6 +188,7 @@ class cDialog {
   void FinishGeometryOnce();
   void LogEvent(const QEvent& event) const;
   void HandleKeyDown(int key, bool ctrl);
+  bool OfferToControls(int id);
   bool ReadMouseAt(const QPoint& global, bool left, bool right, bool force);
   void HideOrDisableOthers(bool restore);
   void ScrollBy(bool vertical, int action);

@@ -8,7 +8,10 @@ namespace velmora {
 // Validate accepts. Cancel, also after a refused OK, leaves the record as
 // it was when the dialog opened, whatever the controls wrote into the copy
 // or the dialog repaired there (a clamped value, a combo forced into its
-// list, a parameter vector sized to its kind).
+// list, a parameter vector sized to its kind). So the dialog may commit
+// its controls whenever its rules need the values (ApplyAll in
+// UpdateEnables, a combo refilled for the value of another): only the copy
+// is written.
 //
 // The copy is made with the object, so the constructor states its table
 // over the fields of Work(); each opening takes it afresh from the record

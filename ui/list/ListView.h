@@ -65,6 +65,12 @@ class cListView {
   bool RunCommand(int id) {
     eListCommand command = CommandForId(m_accelIds, id);
     if (command == eListCommand::None) command = CommandForId(m_menuIds, id);
+    return Execute(command);
+  }
+
+  // Runs an element command, then shows the rows and the working record
+  // anew; false when the command couldn't work.
+  bool Execute(eListCommand command) {
     if (command == eListCommand::None || !Run(command)) return false;
     Show();
     if (onRecordChanged) onRecordChanged();

@@ -1,0 +1,29 @@
+#include "ui/list/RecordListControl.h"
+
+namespace velmora {
+namespace {
+
+// Room for this many rows of condition or command text.
+constexpr int kShownRows = 8;
+constexpr int kShownChars = 48;
+
+QWidget* MakeRecordListWidget(QWidget* parent) {
+  auto* list = new QListWidget(parent);
+  const QFontMetrics metrics(list->font());
+  list->setMinimumSize(metrics.averageCharWidth() * kShownChars, metrics.height() * kShownRows);
+  return list;
+}
+
+}  // namespace
+
+cFormRow RecordListRows(const cRecordListIds& ids) {
+  std::vector<cFormRow> rows = {{nullptr, cCustomDesc{ids.list, MakeRecordListWidget}}};
+  const cButtonDesc buttons[] = {{ids.insert, "挿入"}, {ids.edit, "編集"}, {ids.remove, "削除"}};
+  for (const cButtonDesc& button : buttons) {
+    // The buttons stand in one line under the list.
+    if (button.id != 0) rows.push_back({nullptr, button, nullptr, nullptr, rows.size() > 1});
+  }
+  return FormRows(std::move(rows));
+}
+
+}  // namespace velmora

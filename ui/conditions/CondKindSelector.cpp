@@ -1,5 +1,8 @@
 #include "ui/conditions/CondKindSelector.h"
 
+#include <QWidget>
+#include <algorithm>
+
 #include "core/Log.h"
 #include "objects/CondTables.h"
 #include "ui/conditions/CondDialog.h"
@@ -24,6 +27,17 @@ cCondKindSelector::cCondKindSelector(cDialogManager& manager, QWidget* parent, c
 bool cCondKindSelector::Run(bool isNew) {
   if (!isNew) return OpenKind(m_record.m_nKind, false, m_pOpener);
   return DoModal(0) == 1;
+}
+
+// The buttons stand as one column of equal width.
+void cCondKindSelector::BindOwnControls() {
+  std::vector<QWidget*> buttons = {Item(kIdCancel)};
+  for (int kind = kCondCommonVar; kind <= kCondDistance; ++kind) buttons.push_back(Item(kIdCondKindButton + kind - 1));
+  int width = 0;
+  for (QWidget* button : buttons) width = std::max(width, button ? button->sizeHint().width() : 0);
+  for (QWidget* button : buttons) {
+    if (button) button->setMinimumWidth(width);
+  }
 }
 
 void cCondKindSelector::UpdateEnables() { EnableControl(kIdCondKindButton + kCondDistance - 1, m_bDistanceAllowed); }

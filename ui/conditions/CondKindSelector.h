@@ -17,6 +17,7 @@ class cCondKindSelector : public cDialog {
   bool Run(bool isNew);
 
  protected:
+  void BindOwnControls() override;
   void OnDialogCommand(int id, int notice) override;
   void UpdateEnables() override;
 

@@ -1,5 +1,6 @@
 #pragma once
 #include <QAbstractButton>
+#include <QComboBox>
 #include <functional>
 #include <map>
 #include <vector>
@@ -85,6 +86,7 @@ class cRuleDialog : public cRecordDialog<Record> {
   void BindOwnControls() override {
     m_shownRows.clear();
     m_appliedRanges.clear();
+    FitRuledWidgets();
     FollowRules();
   }
 
@@ -112,6 +114,19 @@ class cRuleDialog : public cRecordDialog<Record> {
   }
 
  private:
+  // A list that takes other rows grows to show the longest of them, and
+  // "_" stays as small as its one character.
+  void FitRuledWidgets() {
+    for (const auto& rule : m_rules.lists) {
+      if (auto* combo = qobject_cast<QComboBox*>(this->Item(rule.id))) {
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+      }
+    }
+    for (const auto& rule : m_rules.renames) {
+      if (QWidget* button = this->Item(rule.button)) button->setFixedWidth(button->sizeHint().height() * 3 / 2);
+    }
+  }
+
   void FollowRules() {
     for (const auto& rule : m_rules.lists) ShowRows(rule.id, rule.rows(this->Work()));
     for (const auto& rule : m_rules.ranges) ApplyRange(rule.id, rule.range(this->Work()));

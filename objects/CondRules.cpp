@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "core/SystemText.h"
 #include "objects/CondTables.h"
 #include "objects/GValInfo.h"
 #include "objects/ObjectList.h"
@@ -115,6 +116,12 @@ void FollowFlagChoice(cEdCond& cond, const cEdCond& before) {
   if (flag && (otherList || cond.m_nLeftVar < flag->min || cond.m_nLeftVar > flag->max)) {
     cond.m_nLeftVar = static_cast<int16_t>(flag->def);
   }
+}
+
+std::string DistancePasteRefusal(const std::vector<cEdCond>& clipboard) {
+  const bool distance =
+      std::any_of(clipboard.begin(), clipboard.end(), [](const cEdCond& c) { return c.m_nKind == kCondDistance; });
+  return distance ? SysText("「距離条件」の貼り付けはできません！") : "";
 }
 
 cValueRange PressMaxRange(const cEdKeyCond& key) {

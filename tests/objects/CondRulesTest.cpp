@@ -3,6 +3,7 @@
 #include "objects/CondRules.h"
 #include "objects/CondTables.h"
 #include "objects/ObjectList.h"
+#include "platform/TextCodec.h"
 
 namespace velmora {
 namespace {
@@ -100,6 +101,14 @@ TEST(CondRules, TheFlagListStartsOverWhenTheObjectPassesToOrFromTheSystem) {
   c.m_nLeftStatus = 1;  // 透明 doesn't hold the 3
   FollowFlagChoice(c, before);
   EXPECT_EQ(c.m_nLeftVar, 0);
+}
+
+TEST(CondRules, ADistanceConditionIsNoPasteForBlocksAndItems) {
+  std::vector<cEdCond> clipboard = {NewCondition(kCondCommonVar), NewCondition(kCondStatus3)};
+  EXPECT_EQ(DistancePasteRefusal(clipboard), "");
+  clipboard.push_back(NewCondition(kCondDistance));
+  EXPECT_EQ(ToUtf8(DistancePasteRefusal(clipboard)), "「距離条件」の貼り付けはできません！");
+  EXPECT_EQ(DistancePasteRefusal({}), "");
 }
 
 TEST(CondRules, NewConditionsAndKeyTimes) {

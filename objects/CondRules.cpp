@@ -78,7 +78,7 @@ bool SideNamesCharaVar(const cEdCond& cond, eCondSide side) {
 int SideVarScope(const cEdCond& cond, eCondSide side) {
   const cCondSideView view = CondSide(cond, side);
   if (!view.namesVar) return -1;
-  return view.scope == kScopeStage ? kScopeStage : kScopeCommon;
+  return view.scope >= kScopeStage ? kScopeStage : kScopeCommon;
 }
 
 std::span<const cStatusInfo> StatusListOf(int object) {

@@ -127,7 +127,13 @@ class cWidgetMaker {
     m_line.insertWidget(m_line.count() - 1, box, 0, Qt::AlignTop);
     Append(m_line, new cCheckCaption(Ui(d.text), box, &m_parent), true);
   }
-  void operator()(const cComboDesc& d) { Add(d.id, new QComboBox(&m_parent), false); }
+  // Made with its rows, so that the form is laid out for the longest even
+  // where it measures itself before the fields are bound.
+  void operator()(const cComboDesc& d) {
+    auto* box = new QComboBox(&m_parent);
+    for (const std::string& text : d.texts) box->addItem(FromCp932(text));
+    Add(d.id, box, false);
+  }
   void operator()(const cSliderDesc& d) { Add(d.id, new QSlider(Qt::Horizontal, &m_parent), true); }
   void operator()(const cStaticDesc& d) { Add(d.id, new QLabel(Ui(d.text), &m_parent), true); }
   void operator()(const cSoundPreviewDesc& d) { Add(d.id, new QPushButton(Ui("再生"), &m_parent), false); }
@@ -257,7 +263,8 @@ class cFormBuilder {
       }
       case cFormBlock::kScroll: {
         auto* rows = new QWidget;
-        BuildColumn(*rows, block.columns.front());
+        // A view taller than its rows keeps them at the top.
+        BuildColumn(*rows, block.columns.front())->addStretch(1);
         m_pGrid->addWidget(new cFormScrollArea(Container(), rows), r, 0, 1, 2);
         m_pGrid->setRowStretch(r, 1);
         break;

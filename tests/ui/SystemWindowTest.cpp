@@ -1,5 +1,5 @@
-#include <QApplication>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -153,12 +153,16 @@ TEST_F(SystemWindow, ThePreviewDrawsTheChosenFaceOrSaysWhichStandsIn) {
   Run([&](cSystemSheet&) {
     auto* preview = dynamic_cast<cFontPreview*>(Show(0, kIdFontPreview));
     ASSERT_NE(preview, nullptr);
+    const QList<QLabel*> lines = preview->findChildren<QLabel*>();  // the sample, then the note
+    ASSERT_EQ(lines.size(), 2);
     Key(0, kIdFont, Qt::Key_Home);
-    EXPECT_EQ(preview->findChild<QLabel*>()->font().family(), QStringLiteral("System"));
-    preview->ShowFace(QFontDatabase::families().front());
-    EXPECT_FALSE(preview->ShowsStandIn());
+    EXPECT_EQ(lines[0]->font().family(), QStringLiteral("System"));
+    const QString installed = QFontDatabase::families().front();
+    preview->ShowFace(installed);
+    EXPECT_EQ(lines[0]->font().family(), installed);
+    EXPECT_TRUE(lines[1]->text().isEmpty());
     preview->ShowFace(QStringLiteral("No Such Face Anywhere"));
-    EXPECT_TRUE(preview->ShowsStandIn());
+    EXPECT_TRUE(lines[1]->text().contains(QFontInfo(lines[0]->font()).family())) << "names the face in use";
   }, false);
 }
 

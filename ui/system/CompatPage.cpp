@@ -23,7 +23,7 @@ class cCompatPage : public cSystemPage {
       const cCompatFlag& flag = flags[static_cast<size_t>(row)];
       rows.push_back(CheckRow(kIdCompatFlag + row, &(Work().*flag.member), flag.text));
     }
-    m_form.rows = std::move(rows);
+    SetRows(std::move(rows));
   }
 };
 

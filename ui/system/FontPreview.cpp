@@ -17,12 +17,16 @@ cFontPreview::cFontPreview(QWidget* parent)
     : QWidget(parent), m_pSample(new QLabel(Ui("abc ABC あいう 剣弾魔龍"), this)), m_pStandIn(new QLabel(this)) {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
+  // The page is laid out before a face is chosen: the sample keeps room for
+  // a face wider than the standard one, and the note wraps, so that neither
+  // widens the page afterwards.
+  const QFontMetrics standard(QFont(font().family(), kSamplePointSize));
   m_pSample->setFrameShape(QFrame::StyledPanel);
-  m_pSample->setMinimumHeight(QFontMetrics(QFont(font().family(), kSamplePointSize)).height() * 3 / 2);
+  m_pSample->setMinimumSize(standard.horizontalAdvance(m_pSample->text()) * 3 / 2, standard.height() * 3 / 2);
+  m_pStandIn->setWordWrap(true);
+  m_pStandIn->setMinimumHeight(fontMetrics().height() * 2);
   column->addWidget(m_pSample);
   column->addWidget(m_pStandIn);
-  // The note keeps its line when it is empty, so the page doesn't move.
-  m_pStandIn->setMinimumHeight(fontMetrics().height());
 }
 
 void cFontPreview::ShowFace(const QString& face) {
@@ -35,7 +39,5 @@ void cFontPreview::ShowFace(const QString& face) {
   const QString used = QFontInfo(sample).family();
   m_pStandIn->setText(Ui("このコンピューターにないフォントです。「%1」で代わりに表示しています。").arg(used));
 }
-
-bool cFontPreview::ShowsStandIn() const { return !m_pStandIn->text().isEmpty(); }
 
 }  // namespace velmora

@@ -11,7 +11,6 @@ class cFontPreview : public QWidget {
  public:
   explicit cFontPreview(QWidget* parent);
   void ShowFace(const QString& face);
-  bool ShowsStandIn() const;
 
  private:
   QLabel* m_pSample;

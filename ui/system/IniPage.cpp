@@ -33,7 +33,7 @@ class cIniPage : public cSystemPage {
           return std::vector<cFormRow>{{nullptr, DefaultEdit(row, s.m_vecOptions[static_cast<size_t>(row)])}};
         })),
     };
-    m_form.rows = {
+    SetRows({
         FormGroup("System.ini",
                   {
                       FormColumns({keys, defaults}),
@@ -47,7 +47,7 @@ class cIniPage : public cSystemPage {
                   }),
         CheckRow(kIdEndAfterStage, &s.m_bEndAfterStage,
                  "このステージクリア後にタイトルへ移動\n（オープニング用。テストプレイではスキップされる）"),
-    };
+    });
   }
 
  private:

@@ -21,7 +21,7 @@ class cModesPage : public cSystemPage {
     cEdSystem& s = Work();
     const char* restoreOnDeath = "死亡したらコモン変数をステージ開始前の状態に戻す";
     const char* retry = "一度クリアしたワールドではポーズメニューからリトライできる";
-    m_form.rows = {
+    SetRows({
         FormColumns({
             {FormGroup("ストーリーモード",
                        {
@@ -56,7 +56,7 @@ class cModesPage : public cSystemPage {
                        }),
              FormGroup("ステージ単体のテストプレイ", {CheckRow(kIdTestRestore, &s.m_bTestRestore, restoreOnDeath)})},
         }),
-    };
+    });
   }
 
  protected:

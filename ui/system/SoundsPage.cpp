@@ -18,10 +18,10 @@ constexpr int kColourMax = 255;
 class cSoundsPage : public cSystemPage {
  public:
   cSoundsPage(cDialogManager& manager, cEdSystem& work) : cSystemPage(manager, work, "system 3") {
-    m_form.rows = {FormColumns({
+    SetRows({FormColumns({
         {FormGroup("ストックの対象", {FormColumns({StockRows(), ResetRows()})}), BitmapGroup()},
         {FormGroup("効果音", SoundRows()), FormGroup("BGM", BgmRows())},
-    })};
+    })});
   }
 
  protected:

@@ -51,11 +51,11 @@ class cStatusPage : public cSystemPage {
         {nullptr, cButtonDesc{kIdEditHelp, "説明の編集"}, nullptr, nullptr, true},
     };
     for (const cKindRows& list : kKinds) kinds.push_back(KindGroup(list));
-    m_form.rows = {FormColumns({
+    SetRows({FormColumns({
         {FormGroup("ステータスウインドウ", RepeatRows(cEdSystem::kGaugeCount, [this](int g) { return GaugeRows(g); }))},
         {MenuGroup(kMenus[0]), MenuGroup(kMenus[1])},
         kinds,
-    })};
+    })});
   }
 
  protected:

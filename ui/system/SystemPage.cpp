@@ -1,7 +1,5 @@
 #include "ui/system/SystemPage.h"
 
-#include <QBoxLayout>
-
 #include "ui/controls/Button.h"
 #include "ui/system/SystemPageIds.h"
 
@@ -13,12 +11,7 @@ cSystemPage::cSystemPage(cDialogManager& manager, cEdSystem& work, const char* l
   m_form.okCancel = false;  // the sheet's
 }
 
-// The sheet gives every page the size of the largest: the rows keep to the
-// top and the room that is left stays below them.
-void cSystemPage::BuildClient(QWidget& client) {
-  cDialog::BuildClient(client);
-  if (auto* column = qobject_cast<QBoxLayout*>(client.layout())) column->addStretch(1);
-}
+void cSystemPage::SetRows(std::vector<cFormRow> rows) { m_form.rows = {FormScroll(std::move(rows))}; }
 
 bool cSystemPage::IsChecked(int id) const {
   const cCheck* check = FindControlOf<cCheck>(id);

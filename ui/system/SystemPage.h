@@ -11,8 +11,10 @@ class cSystemPage : public cDialog {
   cSystemPage(cDialogManager& manager, cEdSystem& work, const char* logName);
 
  protected:
-  void BuildClient(QWidget& client) override;
   cEdSystem& Work() const { return m_work; }
+  // The page's table. Its rows scroll where a small screen can't show the
+  // sheet whole.
+  void SetRows(std::vector<cFormRow> rows);
   // The state a check box shows, committed or not.
   bool IsChecked(int id) const;
   // Clears a check box as the author would; its field follows at OK.

@@ -30,7 +30,7 @@ class cTermsPage : public cSystemPage {
         if (group.title) column.push_back(FormGroup(group.title, TermRows(group)));
       }
     }
-    m_form.rows = {FormGroup("用語", {FormColumns(std::move(columns))})};
+    SetRows({FormGroup("用語", {FormColumns(std::move(columns))})});
   }
 
  private:

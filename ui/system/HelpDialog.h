@@ -11,6 +11,7 @@ namespace velmora {
 class cHelpDialog : public cRecordDialog<std::string> {
  public:
   cHelpDialog(cDialogManager& manager, QWidget* parent, std::string& help);
+  void OnInitDialog() override;
 
  protected:
   void OnDialogCommand(int id, int notice) override;

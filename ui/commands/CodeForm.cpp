@@ -17,11 +17,13 @@ constexpr int kCodeChars = 100;
 constexpr int kCodeBytes = 2 * kCodeChars;  // every character may take two
 
 // The help lines; runs of blanks align their columns in a font of fixed
-// pitch, as the help was written for one.
+// pitch, as the help was written for one. The character statuses run
+// past the width of the help, and their long run of blanks is where they
+// went on below the first: the second half stands under the first here.
 const char* const kHelp =
     "オブジェクト：             my tg1～4 tg pl sys    ※myは省略可、tgはtg1と同じ\n"
-    "ステータス(キャラ)：     v1～8 hp sp mhp msp cid x_rel x_abs x_scr y_rel y_abs y_scr z                                 "
-    "mark sight power imp def impd stop getsc\n"
+    "ステータス(キャラ)：     v1～8 hp sp mhp msp cid x_rel x_abs x_scr y_rel y_abs y_scr z\n"
+    "                         mark sight power imp def impd stop getsc\n"
     "ステータス(システム)：  time scrlx scrly score life\n"
     "変数：       C1～999 S1～999 v1～8\n"
     "演算子：     = + - * / %\n"

@@ -72,7 +72,9 @@ std::vector<cFormRow> InertiaRows(cEdMove& m) {
 }
 
 std::vector<cFormRow> AnimeRows(cCmdWork& w) {
-  return {ComboRow("アニメ", kIdMoveAnimeKind, &w.move.m_nAnimeKind, LabelRows(MoveAnimeTable)), SameLine(AnimeRow(w))};
+  cFormRow anime = AnimeRow(w);
+  anime.label = nullptr;
+  return {ComboRow("アニメ", kIdMoveAnimeKind, &w.move.m_nAnimeKind, LabelRows(MoveAnimeTable)), SameLine(anime)};
 }
 
 // The enabling of every move but 直線移動, whose rules are its own: the

@@ -68,8 +68,12 @@ void cCmdDialog::OnDialogCommand(int id, int notice) {
     UpdateEnables();
     return;
   }
+  const bool changed = FindChanged(MakeCommand(id, notice)) != 0;
+  const cCmdWork before = Work();
   cRuleDialog::OnDialogCommand(id, notice);
-  if (FindChanged(MakeCommand(id, notice)) != 0) MoveSlidersOf(id);
+  if (!changed) return;
+  MoveSlidersOf(id);
+  if (m_kind.reset && m_kind.reset(Work(), before)) RefreshAll();
 }
 
 // A number typed beside a slider moves the slider, so that the slider,

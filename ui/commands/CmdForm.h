@@ -34,6 +34,11 @@ struct cCmdKindForm {
   cRuleForm<cCmdWork> rules;
   // What opening does to the work, each time, besides sizing it.
   void (*open)(cCmdWork&) = nullptr;
+  // What a change made by the author resets in other fields, such as the
+  // defaults of fields that take a new meaning; true when it changed the
+  // work. Unlike the rules' follow, it runs after their limits were
+  // applied, and the controls then show the work afresh.
+  bool (*reset)(cCmdWork& work, const cCmdWork& before) = nullptr;
   // The check of OK; false keeps the dialog open.
   bool (*accept)(const cCmdWork&, OwnerWindow) = nullptr;
   std::vector<cText> texts = {};

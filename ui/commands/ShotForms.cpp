@@ -101,9 +101,12 @@ void TakeDefaults(int16_t (&values)[kParamCount], const cParamTriple& params) {
 }
 
 // A new formation or move type starts its fields from their defaults.
-void FollowShot(cCmdWork& w, const cCmdWork& before) {
-  if (w.shot.m_nFormation != before.shot.m_nFormation) TakeDefaults(w.shot.m_anFormParam, FormationParams(w));
-  if (w.shot.m_nMoveType != before.shot.m_nMoveType) TakeDefaults(w.shot.m_anMoveParam, MoveParams(w));
+bool ResetShotParams(cCmdWork& w, const cCmdWork& before) {
+  const bool formation = w.shot.m_nFormation != before.shot.m_nFormation;
+  const bool move = w.shot.m_nMoveType != before.shot.m_nMoveType;
+  if (formation) TakeDefaults(w.shot.m_anFormParam, FormationParams(w));
+  if (move) TakeDefaults(w.shot.m_anMoveParam, MoveParams(w));
+  return formation || move;
 }
 
 // ---- pieces ----
@@ -383,12 +386,15 @@ cRuleForm<cCmdWork> SummonRules(std::vector<cFormRow> (*rows)(cCmdWork&), const 
   return {.rows = rows,
           .lists = {{kIdShotSummonNo, SummonRows<List>}},
           .ranges = kFormationRanges,
-          .enables = Joined(kShotCommonEnables, own),
-          .follow = FollowShot};
+          .enables = Joined(kShotCommonEnables, own)};
 }
 
 cCmdKindForm SummonForm(int kind, cRuleForm<cCmdWork> rules) {
-  return {.kind = kind, .rules = std::move(rules), .texts = kFormationTexts, .shows = kFormationShows};
+  return {.kind = kind,
+          .rules = std::move(rules),
+          .reset = ResetShotParams,
+          .texts = kFormationTexts,
+          .shows = kFormationShows};
 }
 
 const cCmdKindForm kForms[] = {
@@ -396,8 +402,8 @@ const cCmdKindForm kForms[] = {
      .rules = {.rows = ShotRows,
                .lists = {{kIdShotGetItemNo, GetItemRows}},
                .ranges = ShotRanges(),
-               .enables = ShotEnables(),
-               .follow = FollowShot},
+               .enables = ShotEnables()},
+     .reset = ResetShotParams,
      .texts = Joined(kFormationTexts, {{kIdShotMoveLabel, MoveLabel<0>},
                                        {kIdShotMoveLabel + 1, MoveLabel<1>},
                                        {kIdShotMoveLabel + 2, MoveLabel<2>}}),

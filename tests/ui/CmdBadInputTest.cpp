@@ -52,9 +52,8 @@ TEST_F(CmdBadInput, EveryKindOpensADamagedCommandThatCancelLeavesAloneAndOkGives
       cEdCmd cmd;
       cmd.SetUpNew(kind, itemCmd);
       Damage(cmd);
+      EXPECT_TRUE(CancelLeavesAlone(cmd, [](cDialog&) {}));
       const std::vector<uint8_t> before = SavedBytes(cmd);
-      EXPECT_FALSE(EditExisting(cmd, [](cDialog& d) { Click(d, kIdCancel); }));
-      EXPECT_EQ(SavedBytes(cmd), before);
 
       const bool stored = EditExisting(cmd, [](cDialog& d) {
         Click(d, kIdOk);

@@ -66,6 +66,22 @@ class cCmdDialogFixture : public cCondDialogFixture {
     return EditFlowCommand(cmd, false, manager, nullptr, palette);
   }
   static std::string Summary(const cEdCmd& cmd) { return ToUtf8(CmdSummaryText(cmd)); }
+  // Opens the command, does `step` and cancels: true when the dialog gave
+  // no OK and the command is byte for byte as it was.
+  bool CancelLeavesAlone(cEdCmd& cmd, std::function<void(cDialog&)> step) {
+    const std::vector<uint8_t> before = SavedBytes(cmd);
+    const bool stored = EditExisting(cmd, [step](cDialog& d) {
+      step(d);
+      Click(d, kIdCancel);
+    });
+    return !stored && SavedBytes(cmd) == before;
+  }
+  // Whether each control of `ids` takes part, as one list to compare.
+  static std::vector<bool> EnabledOf(cDialog& d, std::initializer_list<int> ids) {
+    std::vector<bool> enabled;
+    for (int id : ids) enabled.push_back(Enabled(d, id));
+    return enabled;
+  }
 
  private:
   struct cPaletteRows {

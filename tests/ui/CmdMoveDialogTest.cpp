@@ -124,34 +124,22 @@ TEST_F(LineMoveDialog, TheSetTypeEnablesTheTwoSettingsItNames) {
 }
 
 TEST_F(LineMoveDialog, DirectionAndTargetTakePartByTheAimAndFixedTargetsClearTheirFlips) {
-  cEdCmd result;
   EditExisting(cmd, [](cDialog& d) {
-    EXPECT_TRUE(Enabled(d, kIdMoveDir));
-    EXPECT_TRUE(Enabled(d, kIdMoveFlipOnTurn));
-    EXPECT_TRUE(Enabled(d, kIdMoveAngleMirror));
-    EXPECT_FALSE(Enabled(d, kIdMoveTargetType));
-    EXPECT_FALSE(Enabled(d, kIdMoveTargetX));
-    EXPECT_FALSE(Enabled(d, kIdMoveFlipX));
+    // The direction's controls, then the target's.
+    const auto parts = [&d] {
+      return EnabledOf(d, {kIdMoveDir, kIdMoveFlipOnTurn, kIdMoveAngleMirror, kIdMoveTargetType, kIdMoveTargetX,
+                           kIdMoveTargetXDot, kIdMoveTargetYDot, kIdMoveUntilTarget, kIdMoveFlipX, kIdMoveFlipY});
+    };
+    EXPECT_EQ(parts(), (std::vector<bool>{true, true, true, false, false, false, false, false, false, false}));
     Choose(d, kIdMoveDir, 12);
     EXPECT_FALSE(Enabled(d, kIdMoveAngleMirror)) << "入力方向 has no mirror image";
 
     Choose(d, kIdMoveAimType, 1);
-    EXPECT_FALSE(Enabled(d, kIdMoveDir));
-    EXPECT_FALSE(Enabled(d, kIdMoveFlipOnTurn));
-    EXPECT_FALSE(Enabled(d, kIdMoveAngleMirror));
-    EXPECT_TRUE(Enabled(d, kIdMoveTargetType));
-    EXPECT_TRUE(Enabled(d, kIdMoveTargetX));
-    EXPECT_TRUE(Enabled(d, kIdMoveTargetYDot));
-    EXPECT_TRUE(Enabled(d, kIdMoveUntilTarget));
+    EXPECT_EQ(parts(), (std::vector<bool>{false, false, false, true, true, true, true, true, true, true}));
     Click(d, kIdMoveUseTargetX);
-    EXPECT_FALSE(Enabled(d, kIdMoveTargetX));
-    EXPECT_FALSE(Enabled(d, kIdMoveTargetXDot));
-    EXPECT_TRUE(Enabled(d, kIdMoveTargetY));
-
-    EXPECT_TRUE(Enabled(d, kIdMoveFlipX));
+    EXPECT_EQ(EnabledOf(d, {kIdMoveTargetX, kIdMoveTargetXDot, kIdMoveTargetY}), (std::vector<bool>{false, false, true}));
     Choose(d, kIdMoveTargetType, 2);
-    EXPECT_FALSE(Enabled(d, kIdMoveFlipX));
-    EXPECT_FALSE(Enabled(d, kIdMoveFlipY));
+    EXPECT_EQ(EnabledOf(d, {kIdMoveFlipX, kIdMoveFlipY}), (std::vector<bool>{false, false}));
     EXPECT_FALSE(qobject_cast<QAbstractButton*>(d.Item(kIdMoveFlipX))->isChecked());
     Click(d, kIdOk);
   });

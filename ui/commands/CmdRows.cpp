@@ -139,4 +139,6 @@ cFormRow SameLine(cFormRow row) {
 
 cFormRow NoteRow(int id, const char* text) { return {nullptr, cStaticDesc{id, text}}; }
 
+void TakeParallel(cCmdWork& w) { w.cmd.m_bParallel = 1; }
+
 }  // namespace velmora

@@ -54,4 +54,17 @@ cFormRow SameLine(cFormRow row);
 // A note under the fields.
 cFormRow NoteRow(int id, const char* text);
 
+// Rules of several kinds: a kind that always runs in parallel when it
+// opens, and a control that takes part while parameter I is set.
+void TakeParallel(cCmdWork& w);
+template <int I>
+bool ParamSet(const cCmdWork& w) { return w.P(I) != 0; }
+
+// A list of rules with more behind it.
+template <class T>
+std::vector<T> Joined(std::vector<T> first, const std::vector<T>& second) {
+  first.insert(first.end(), second.begin(), second.end());
+  return first;
+}
+
 }  // namespace velmora

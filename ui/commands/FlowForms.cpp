@@ -26,11 +26,6 @@ constexpr int kStatusValueLimit = 999999;
 
 const char* const kCharaOffscreen = "キャラが画面外なら再生しない";
 
-void TakeParallel(cCmdWork& w) { w.cmd.m_bParallel = 1; }
-
-template <int I>
-bool ParamSet(const cCmdWork& w) { return w.P(I) != 0; }
-
 // ---- 向き変更 (263) ----
 
 std::vector<cFormRow> TurnRows(cCmdWork& w) {

@@ -81,11 +81,7 @@ std::vector<cFormRow> AnimeRows(cCmdWork& w) {
 // inertia's two values follow its box, and the アニメ list matters for
 // その他 only.
 std::vector<cEnable> MoveEnables() {
-  std::vector<cEnable> enables = kTimingEnables;
-  enables.push_back({kIdMoveMaxSpeed, HasInertia});
-  enables.push_back({kIdMoveTurnRate, HasInertia});
-  enables.push_back({kIdCmdAnime, AnimeChosen});
-  return enables;
+  return Joined(kTimingEnables, {{kIdMoveMaxSpeed, HasInertia}, {kIdMoveTurnRate, HasInertia}, {kIdCmdAnime, AnimeChosen}});
 }
 
 // The offset from the target of 突撃移動 and 誘導移動, in blocks and dots.
@@ -173,16 +169,13 @@ std::vector<cFormRow> LineRows(cCmdWork& w) {
 }
 
 std::vector<cEnable> LineEnables() {
-  std::vector<cEnable> enables = kTimingEnables;
-  const std::vector<cEnable> aim = {
+  return Joined(kTimingEnables, {
       {kIdMoveDir, AimsByDir},           {kIdMoveFlipOnTurn, AimsByDir},    {kIdMoveAngleMirror, MirrorsAngle},
       {kIdMoveTargetType, AimsAtTarget}, {kIdMoveTargetUnit, AimsAtTarget}, {kIdMoveUseTargetX, AimsAtTarget},
       {kIdMoveUseTargetY, AimsAtTarget}, {kIdMoveUntilTarget, AimsAtTarget}, {kIdMoveTargetX, UsesTargetX},
       {kIdMoveTargetXDot, UsesTargetX},  {kIdMoveTargetY, UsesTargetY},     {kIdMoveTargetYDot, UsesTargetY},
       {kIdMoveFlipX, FlipsTarget},       {kIdMoveFlipY, FlipsTarget},
-  };
-  enables.insert(enables.end(), aim.begin(), aim.end());
-  return enables;
+  });
 }
 
 // ---- 地上折り返し移動 (259) ----

@@ -251,29 +251,18 @@ std::vector<cFormRow> ShotRows(cCmdWork& w) {
 }
 
 std::vector<cEnable> ShotEnables() {
-  std::vector<cEnable> enables = kShotCommonEnables;
-  const std::vector<cEnable> own = {
+  return Joined(kShotCommonEnables, {
       {kIdShotMoveTarget, MoveUsesTarget}, {kIdShotAccel, Accelerates},     {kIdShotAccelClone, Accelerates},
       {kIdShotRange, HasRange},            {kIdShotRangeClone, HasRange},   {kIdShotLife, HasLife},
       {kIdShotLifeClone, HasLife},         {kIdShotVanishValue, VanishesByShot}, {kIdShotForce, ForceOwn},
       {kIdShotGetItemNo, GetsItem},        {kIdShotAttackFlow, Attacks},
-  };
-  enables.insert(enables.end(), own.begin(), own.end());
-  return enables;
+  });
 }
 
 std::vector<cRange> ShotRanges() {
-  std::vector<cRange> ranges = kFormationRanges;
-  ranges.push_back({kIdShotMoveParam, MoveRange<0>});
-  ranges.push_back({kIdShotMoveParam + 2, MoveRange<1>});
-  ranges.push_back({kIdShotMoveParam + 4, MoveRange<2>});
-  return ranges;
-}
-
-template <class T>
-std::vector<T> Joined(std::vector<T> first, const std::vector<T>& second) {
-  first.insert(first.end(), second.begin(), second.end());
-  return first;
+  return Joined(kFormationRanges, {{kIdShotMoveParam, MoveRange<0>},
+                                   {kIdShotMoveParam + 2, MoveRange<1>},
+                                   {kIdShotMoveParam + 4, MoveRange<2>}});
 }
 
 // ---- ソード (224) ----

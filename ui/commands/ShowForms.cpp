@@ -20,13 +20,15 @@ constexpr int kShowForTime = 2;
 constexpr int kMsgPosByCoord = 7;     // MsgPosTable: 画面座標 and ステージ座標 from here on
 constexpr int kEffectPosByCoord = 3;  // EffectPosTable: the same
 
-void TakeParallel(cCmdWork& w) { w.cmd.m_bParallel = 1; }
+// Where parameters stand that place a message, an effect or a picture.
+struct cPlaceParams {
+  int pos, x, unit, shiftX;
+};
 
-template <int I>
-bool ParamSet(const cCmdWork& w) { return w.P(I) != 0; }
-
-// The place on the screen or the stage that effects and pictures share.
-std::vector<cFormRow> PlaceRows(cCmdWork& w, int pos, const cLabelTable& table, int x, int unit, int shiftX) {
+// The place on the screen or the stage that messages, effects and
+// pictures share: x and y, their shifts one behind the other.
+std::vector<cFormRow> PlaceRows(cCmdWork& w, const cLabelTable& table, const cPlaceParams& p) {
+  const auto [pos, x, unit, shiftX] = p;
   return {
       ParamCombo(w, pos, "表示位置", LabelRows(table)),
       ParamNumber(w, x, "座標X", 0, kScreenLimit),
@@ -36,6 +38,8 @@ std::vector<cFormRow> PlaceRows(cCmdWork& w, int pos, const cLabelTable& table, 
       ParamNumber(w, shiftX + 1, "表示位置のズレY(dot)", -kShiftLimit, kShiftLimit),
   };
 }
+
+cFormRow ScaleRow(cCmdWork& w, int i) { return ParamNumber(w, i, "表示倍率(%)", 1, 1000); }
 
 // ---- メッセージ (239): erasing a message needs its ID only ----
 
@@ -53,7 +57,7 @@ std::vector<cFormRow> MessageRows(cCmdWork& w) {
       },
       {
           FormGroup("表示位置", {
-              FormRows(PlaceRows(w, 0, MsgPosTable, 1, 18, 3)),
+              FormRows(PlaceRows(w, MsgPosTable, {0, 1, 18, 3})),
               ParamCheck(w, 5, "画面からはみ出ないように自動調整"),
               ParamCheck(w, 10, "画面に追従する（スクロールしても位置が変わらない）"),
           }),
@@ -75,7 +79,7 @@ std::vector<cFormRow> MessageRows(cCmdWork& w) {
 
 std::vector<cEnable> MessageEnables() {
   std::vector<cEnable> enables = {
-      {ParamId(1), MsgByCoord}, {ParamId(2), MsgByCoord},   {ParamId(18), MsgByCoord}, {ParamId(7), MsgForTime},
+      {ParamId(1), MsgByCoord},  {ParamId(2), MsgByCoord},   {ParamId(18), MsgByCoord}, {ParamId(7), MsgForTime},
       {ParamId(16), MsgUpdates}, {ParamId(13), ParamSet<12>}, {kIdCmdText, MsgShows},
   };
   for (int i : {0, 3, 4, 5, 6, 8, 9, 10, 11, 14, 17}) enables.push_back({ParamId(i), MsgShows});
@@ -90,8 +94,8 @@ bool EffectByCoord(const cCmdWork& w) { return EffectShown(w) && w.P(1) >= kEffe
 std::vector<cFormRow> EffectRows(cCmdWork& w) {
   return {
       ParamCombo(w, 0, "エフェクト", DbRows(eDbList::Effect, "エフェクトの消去")),
-      FormRows(PlaceRows(w, 1, EffectPosTable, 2, 8, 4)),
-      ParamNumber(w, 6, "表示倍率(%)", 1, 1000),
+      FormRows(PlaceRows(w, EffectPosTable, {1, 2, 8, 4})),
+      ScaleRow(w, 6),
       ParamCheck(w, 7, "一時停止"),
   };
 }
@@ -130,8 +134,8 @@ bool PictureForTime(const cCmdWork& w) { return PictureShown(w) && w.P(8) == kSh
 std::vector<cFormRow> PictureRows(cCmdWork& w) {
   return {
       ParamCombo(w, 0, "ピクチャー", DbRows(eDbList::Picture, "ピクチャーの消去(ID非設定なら全消去)")),
-      FormRows(PlaceRows(w, 1, EffectPosTable, 2, 15, 4)),
-      ParamNumber(w, 7, "表示倍率(%)", 1, 1000),
+      FormRows(PlaceRows(w, EffectPosTable, {1, 2, 15, 4})),
+      ScaleRow(w, 7),
       ParamCheck(w, 6, "キャラより手前に表示"),
       ParamCombo(w, 8, "表示時間", LabelRows(ShowTimeTable)),
       ParamNumber(w, 9, "時間(1/10s)", 1, kLongTime),

@@ -108,18 +108,14 @@ std::vector<cEnable> SideEnableRules(const cSideParams& p) {
 }
 
 std::vector<cEnable> StatusOpEnables() {
-  std::vector<cEnable> enables = SideEnableRules<kLeft>(kLeftParams);
-  const std::vector<cEnable> right = SideEnableRules<kRight>(kRightParams);
-  enables.insert(enables.end(), right.begin(), right.end());
-  const std::vector<cEnable> values = {
-      {ParamId(7), ConstantOn},
-      {ParamId(8), RandomOn},
-      {ParamId(9), RandomOn},
-      {ParamId(14), StatusOpPercentAllowed, true},
-      {ParamId(15), PercentKindOn},
-  };
-  enables.insert(enables.end(), values.begin(), values.end());
-  return enables;
+  return Joined(Joined(SideEnableRules<kLeft>(kLeftParams), SideEnableRules<kRight>(kRightParams)),
+                {
+                    {ParamId(7), ConstantOn},
+                    {ParamId(8), RandomOn},
+                    {ParamId(9), RandomOn},
+                    {ParamId(14), StatusOpPercentAllowed, true},
+                    {ParamId(15), PercentKindOn},
+                });
 }
 
 const cCmdKindForm kStatusOpForm{

@@ -38,9 +38,6 @@ std::vector<cFormRow> TurnRows(cCmdWork& w) {
 }
 
 // ---- ジャンプ (243) ----
-// Part 3.9 shows 効果音 in kinds 9 and 11 to 15 only; the command's own
-// table gives ジャンプ its m_nSound with m_nAnime and m_bNoSoundOffscreen,
-// and アレンジ can reach its 効果音, so the jump shows its sound too.
 
 bool AdjustsHeight(const cCmdWork& w) { return w.P(0) != 0; }
 
@@ -223,6 +220,10 @@ const cCmdKindForm kStageClearForm{
 
 const cCmdKindForm kForms[] = {
     {.kind = kCmdTurn, .rules = {.rows = TurnRows}},
+    // The family's list of dialogs shows 効果音 in 向き変更 and from ショット
+    // to アイテム召喚 only; the command's own field list gives ジャンプ its
+    // m_nSound beside m_nAnime and m_bNoSoundOffscreen (and アレンジ reaches
+    // its 効果音), and the command's own list decides: the jump shows it.
     {.kind = kCmdJump,
      .rules = {.rows = JumpRows,
                .enables = {{ParamId(3), AdjustsHeight},

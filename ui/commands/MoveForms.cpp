@@ -179,9 +179,6 @@ std::vector<cEnable> LineEnables() {
 }
 
 // ---- 地上折り返し移動 (259) ----
-// Part 3.9 names its fields as 設定タイプ, speed, distance, inertia and アニメ;
-// the record's own table gives it also the maximum speed and the turn rate
-// (U column G), and those are shown with the inertia they belong to.
 
 std::vector<cFormRow> GroundTurnRows(cCmdWork& w) {
   return {FormGroup("時間・速度・距離", TimingRows(w)), FormGroup("慣性", InertiaRows(w.move)), FormRows(AnimeRows(w))};
@@ -310,12 +307,20 @@ const cCmdKindForm kForms[] = {
      .accept = AcceptRatio,
      .texts = kRatioTexts,
      .shows = kRatioShows},
+    // Where the list of the family's dialogs and the field list of the move
+    // record differ on what a kind shows, the record's own marks decide.
+    // The dialogs' list names 設定タイプ, speed, distance, inertia and アニメ
+    // here; the record marks also the clone values, the distance's unit,
+    // 最大速度 and 方向転換時の速度修正 for this kind.
     {.kind = kCmdGroundTurn,
      .rules = {.rows = GroundTurnRows, .enables = MoveEnables()},
      .accept = AcceptRatio,
      .texts = kRatioTexts,
      .shows = kRatioShows},
-    // Set by time or by speed, it has no ratio to keep.
+    // Set by time or by speed, it has no ratio to keep. The dialogs' list
+    // names 回転方向, the two angles, 半径 and the speed; the record marks
+    // also their clone values, 設定タイプ, the boxes of the axes, the flips
+    // and the facing, and the アニメ.
     {.kind = kCmdCircle,
      .rules = {.rows = CircleRows,
                .enables = {{kIdCmdTime, CircleByTime},
@@ -323,16 +328,24 @@ const cCmdKindForm kForms[] = {
                            {kIdMoveSpeed, CircleBySpeed},
                            {kIdMoveSpeedClone, CircleBySpeed},
                            {kIdCmdAnime, AnimeChosen}}}},
+    // The dialogs' list names ターゲット, ズレ and 設定タイプ; the record marks
+    // also the angle with its mirror, the flips, the axes, the facing, the
+    // speed and distance, the inertia and the アニメ.
     {.kind = kCmdCharge,
      .rules = {.rows = ChargeRows, .enables = MoveEnables()},
      .accept = AcceptRatio,
      .texts = kRatioTexts,
      .shows = kRatioShows},
+    // The dialogs' list names ターゲット and 誘導精度の悪さ; the record marks
+    // also ズレ, the flips, the axes, ブレを防止, the facing, 設定タイプ with
+    // speed and distance, the inertia and the アニメ.
     {.kind = kCmdHoming,
      .rules = {.rows = HomingRows, .enables = MoveEnables()},
      .accept = AcceptRatio,
      .texts = kRatioTexts,
      .shows = kRatioShows},
+    // The dialogs' list names 方向 and 設定タイプ; the record marks also the
+    // speed and distance, the inertia, the facing and the アニメ.
     {.kind = kCmdAvoid,
      .rules = {.rows = AvoidRows, .enables = MoveEnables()},
      .accept = AcceptRatio,

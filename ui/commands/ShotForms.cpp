@@ -266,11 +266,9 @@ std::vector<cRange> ShotRanges() {
 }
 
 // ---- ソード (224) ----
-// Part 3.9 names its fields as the sword type, 威力 and 勢力; the record's
-// own table (U column D) gives it also Z座標, 透明, 巨大化, 衝撃, エフェクト,
-// 取得アイテム and アタック, and all of those are shown. Its time is the
-// sword type's and is shown, not edited; its parallel flag stays the
-// author's, as no rule says what a sword type would make of it.
+// Its time is the sword type's and is shown, not edited; its parallel
+// flag stays the author's, as nothing says what a sword type would make of
+// it.
 
 void TakeSwordTime(cCmdWork& w) {
   if (const std::optional<int> time = RefSizes().SwordTypeTime(w.shot.m_nMoveType)) {
@@ -397,6 +395,9 @@ const cCmdKindForm kForms[] = {
                                        {kIdShotMoveLabel + 1, MoveLabel<1>},
                                        {kIdShotMoveLabel + 2, MoveLabel<2>}}),
      .shows = Joined(kFormationShows, {MoveShow<0>(), MoveShow<1>(), MoveShow<2>()})},
+    // The family's list of dialogs names the sword type, 威力 and 勢力; the
+    // shot record marks also Z座標, 透明, 巨大化, 衝撃, エフェクト, 取得アイテム
+    // and アタック for ソード, and the record's own marks decide: all shown.
     {.kind = kCmdSword,
      .rules = {.rows = SwordRows,
                .lists = {{kIdShotGetItemNo, GetItemRows}},

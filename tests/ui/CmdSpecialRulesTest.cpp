@@ -263,6 +263,16 @@ TEST_F(CmdRules, TheScreenColourHasSlidersThatTakeWhatIsTyped) {
   EXPECT_EQ(Summary(cmd), "P-0(0) ◆ 画面の色を変更 ◆ 元に戻す");
 }
 
+TEST_F(CmdRules, AnItemsCommandSeesItsObjectsFromTheItemWhileItsDialogIsOpen) {
+  SetObjectContext(eObjectContext::ItemEditor);
+  cEdCmd cmd;
+  cmd.SetUpNew(kCmdStatusOp2 - kItemKindOffset, true);
+  std::string first;
+  EXPECT_TRUE(CancelLeavesAlone(cmd, [&first](cDialog& d) { first = Rows(d, ParamId(0)).value(0).toStdString(); }));
+  EXPECT_EQ(first, "自分");
+  EXPECT_EQ(CurrentObjectContext(), eObjectContext::ItemEditor);
+}
+
 TEST_F(CmdRules, TheSelectorsOfferAButtonForEachKindInOrder) {
   for (bool itemCmd : {false, true}) {
     const std::span<const cCmdInfo> table = itemCmd ? ItemCmdTable : CmdTable;

@@ -9,6 +9,10 @@
 
 namespace velmora {
 
+// The rules of the command forms.
+using cCmdEnable = cRuleForm<cCmdWork>::cEnable;
+using cCmdRange = cRuleForm<cCmdWork>::cRange;
+
 // The dialog of one kind of command, stated as data: the rows and rules of
 // its table over the work, and what sets the kind apart from the family.
 struct cCmdKindForm {

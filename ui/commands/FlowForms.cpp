@@ -16,8 +16,6 @@
 namespace velmora {
 namespace {
 
-using cEnable = cRuleForm<cCmdWork>::cEnable;
-
 constexpr int kFlowRangeById = 2;
 constexpr int kClearByNumber = 1;
 constexpr int kClearByPath = 2;
@@ -70,7 +68,7 @@ std::vector<cFormRow> FlowOpRows(cCmdWork& w) {
   };
 }
 
-const std::vector<cEnable> kFlowOpEnables = {
+const std::vector<cCmdEnable> kFlowOpEnables = {
     {ParamId(2), ById},
     {kIdCondJudge, HasConditions},
     {kIdCondList, HasConditions},
@@ -117,7 +115,7 @@ bool ChooseStageFile(cCmdWork& w, OwnerWindow owner) {
   return true;
 }
 
-const std::vector<cEnable> kStageClearEnables = {
+const std::vector<cCmdEnable> kStageClearEnables = {
     {ParamId(1), ClearsByNumber}, {kIdCmdText, ClearsByPath}, {kIdStageBrowse, ClearsByPath},
     {ParamId(3), ParamSet<2>},    {ParamId(4), ParamSet<2>},  {ParamId(6), ParamSet<5>},
     {ParamId(7), ParamSet<5>},
@@ -159,7 +157,7 @@ std::vector<cFormRow> TargetSetRows(cCmdWork& w) {
   };
 }
 
-const std::vector<cEnable> kTargetSetEnables = {
+const std::vector<cCmdEnable> kTargetSetEnables = {
     {ParamId(2), SearchesAForce},         {ParamId(3), Searches},  {ParamId(4), Searches},
     {ParamId(5), Searches},               {ParamId(6), Searches},  {ParamId(7), Searches},
     {ParamId(8), Searches},               {ParamId(9), Searches},  {ParamId(10), SearchFilterSet<9>},

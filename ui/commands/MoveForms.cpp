@@ -11,8 +11,6 @@
 namespace velmora {
 namespace {
 
-using cEnable = cRuleForm<cCmdWork>::cEnable;
-
 constexpr int kAimByDir = 0;
 constexpr int kDirFromInput = 12;  // 入力方向: no mirror image of it
 constexpr int kFixedTargetType = 2;  // 絶対座標 and 画面座標 don't turn with the character
@@ -51,7 +49,7 @@ std::vector<cFormRow> TimingRows(cCmdWork& w) {
   return rows;
 }
 
-const std::vector<cEnable> kTimingEnables = {
+const std::vector<cCmdEnable> kTimingEnables = {
     {kIdCmdTime, UsesTime},       {kIdCmdTimeClone, UsesTime},  {kIdMoveSpeed, UsesSpeed},
     {kIdMoveSpeedClone, UsesSpeed}, {kIdMoveDist, UsesDist},    {kIdMoveDistClone, UsesDist},
     {kIdMoveDistUnit, UsesDist},
@@ -80,7 +78,7 @@ std::vector<cFormRow> AnimeRows(cCmdWork& w) {
 // The enabling of every move but 直線移動, whose rules are its own: the
 // inertia's two values follow its box, and the アニメ list matters for
 // その他 only.
-std::vector<cEnable> MoveEnables() {
+std::vector<cCmdEnable> MoveEnables() {
   return Joined(kTimingEnables, {{kIdMoveMaxSpeed, HasInertia}, {kIdMoveTurnRate, HasInertia}, {kIdCmdAnime, AnimeChosen}});
 }
 
@@ -168,7 +166,7 @@ std::vector<cFormRow> LineRows(cCmdWork& w) {
   })};
 }
 
-std::vector<cEnable> LineEnables() {
+std::vector<cCmdEnable> LineEnables() {
   return Joined(kTimingEnables, {
       {kIdMoveDir, AimsByDir},           {kIdMoveFlipOnTurn, AimsByDir},    {kIdMoveAngleMirror, MirrorsAngle},
       {kIdMoveTargetType, AimsAtTarget}, {kIdMoveTargetUnit, AimsAtTarget}, {kIdMoveUseTargetX, AimsAtTarget},
@@ -290,7 +288,7 @@ std::vector<cFormRow> WarpRows(cCmdWork& w) {
   };
 }
 
-const std::vector<cEnable> kWarpEnables = {
+const std::vector<cCmdEnable> kWarpEnables = {
     {kIdMoveDir, WarpsByDir},           {kIdMoveDist, WarpsByDir},           {kIdMoveDistClone, WarpsByDir},
     {kIdMoveTargetType, WarpsToPoint},  {kIdMoveTargetUnit, WarpsToPoint},   {kIdMoveWarpOrigin, WarpsToPoint},
     {kIdMoveUseTargetX, WarpsToPoint},  {kIdMoveUseTargetY, WarpsToPoint},   {kIdMoveTargetX, WarpsToX},

@@ -17,9 +17,6 @@
 namespace velmora {
 namespace {
 
-using cEnable = cRuleForm<cCmdWork>::cEnable;
-using cRange = cRuleForm<cCmdWork>::cRange;
-
 constexpr int kAimAtTarget = 0;          // 対象 ターゲット
 constexpr int kMoveAimsTarget = 3;       // ターゲットを狙う
 constexpr int kMoveHomesTarget = 6;      // ターゲットへ誘導
@@ -92,7 +89,7 @@ const std::vector<cCmdKindForm::cText> kFormationTexts = {
     {kIdShotFormLabel, FormationLabel<0>}, {kIdShotFormLabel + 1, FormationLabel<1>},
     {kIdShotFormLabel + 2, FormationLabel<2>}};
 const std::vector<cCmdKindForm::cShow> kFormationShows = {FormationShow<0>(), FormationShow<1>(), FormationShow<2>()};
-const std::vector<cRange> kFormationRanges = {
+const std::vector<cCmdRange> kFormationRanges = {
     {kIdShotFormParam, FormationRange<0>}, {kIdShotFormParam + 2, FormationRange<1>},
     {kIdShotFormParam + 4, FormationRange<2>}};
 
@@ -179,7 +176,7 @@ std::vector<cFormRow> CommandRows(cCmdWork& w) {
   return rows;
 }
 
-const std::vector<cEnable> kShotCommonEnables = {
+const std::vector<cCmdEnable> kShotCommonEnables = {
     {kIdShotTargetNo, AimsAtTarget},
     {kIdCmdNoSoundOffscreen, HasSound},
 };
@@ -250,7 +247,7 @@ std::vector<cFormRow> ShotRows(cCmdWork& w) {
   })};
 }
 
-std::vector<cEnable> ShotEnables() {
+std::vector<cCmdEnable> ShotEnables() {
   return Joined(kShotCommonEnables, {
       {kIdShotMoveTarget, MoveUsesTarget}, {kIdShotAccel, Accelerates},     {kIdShotAccelClone, Accelerates},
       {kIdShotRange, HasRange},            {kIdShotRangeClone, HasRange},   {kIdShotLife, HasLife},
@@ -259,7 +256,7 @@ std::vector<cEnable> ShotEnables() {
   });
 }
 
-std::vector<cRange> ShotRanges() {
+std::vector<cCmdRange> ShotRanges() {
   return Joined(kFormationRanges, {{kIdShotMoveParam, MoveRange<0>},
                                    {kIdShotMoveParam + 2, MoveRange<1>},
                                    {kIdShotMoveParam + 4, MoveRange<2>}});
@@ -369,7 +366,7 @@ std::vector<cFormRow> SummonItemRows(cCmdWork& w) {
 }
 
 template <ePaletteList List>
-cRuleForm<cCmdWork> SummonRules(std::vector<cFormRow> (*rows)(cCmdWork&), const std::vector<cEnable>& own) {
+cRuleForm<cCmdWork> SummonRules(std::vector<cFormRow> (*rows)(cCmdWork&), const std::vector<cCmdEnable>& own) {
   return {.rows = rows,
           .lists = {{kIdShotSummonNo, SummonRows<List>}},
           .ranges = kFormationRanges,

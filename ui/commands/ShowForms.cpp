@@ -11,8 +11,6 @@
 namespace velmora {
 namespace {
 
-using cEnable = cRuleForm<cCmdWork>::cEnable;
-
 constexpr int kScreenLimit = 16383;
 constexpr int kShiftLimit = 999;
 constexpr int kLongTime = 9999;
@@ -77,8 +75,8 @@ std::vector<cFormRow> MessageRows(cCmdWork& w) {
   })};
 }
 
-std::vector<cEnable> MessageEnables() {
-  std::vector<cEnable> enables = {
+std::vector<cCmdEnable> MessageEnables() {
+  std::vector<cCmdEnable> enables = {
       {ParamId(1), MsgByCoord},  {ParamId(2), MsgByCoord},   {ParamId(18), MsgByCoord}, {ParamId(7), MsgForTime},
       {ParamId(16), MsgUpdates}, {ParamId(13), ParamSet<12>}, {kIdCmdText, MsgShows},
   };
@@ -100,7 +98,7 @@ std::vector<cFormRow> EffectRows(cCmdWork& w) {
   };
 }
 
-const std::vector<cEnable> kEffectEnables = {
+const std::vector<cCmdEnable> kEffectEnables = {
     {ParamId(1), EffectShown},   {ParamId(2), EffectByCoord}, {ParamId(3), EffectByCoord},
     {ParamId(8), EffectByCoord}, {ParamId(4), EffectShown},   {ParamId(5), EffectShown},
     {ParamId(6), EffectShown},   {ParamId(7), EffectShown},
@@ -117,7 +115,7 @@ std::vector<cFormRow> RunEffectRows(cCmdWork& w) {
   };
 }
 
-const std::vector<cEnable> kRunEffectEnables = {{ParamId(1), ParamSet<0>}, {ParamId(2), ParamSet<0>}};
+const std::vector<cCmdEnable> kRunEffectEnables = {{ParamId(1), ParamSet<0>}, {ParamId(2), ParamSet<0>}};
 
 // It lasts as long as the effect runs, whatever the command held.
 void OpenScrEffect(cCmdWork& w) {
@@ -147,8 +145,8 @@ std::vector<cFormRow> PictureRows(cCmdWork& w) {
   };
 }
 
-std::vector<cEnable> PictureEnables() {
-  std::vector<cEnable> enables = {
+std::vector<cCmdEnable> PictureEnables() {
+  std::vector<cCmdEnable> enables = {
       {ParamId(2), PictureByCoord}, {ParamId(3), PictureByCoord}, {ParamId(15), PictureByCoord},
       {ParamId(9), PictureForTime}, {ParamId(13), ParamSet<12>},
   };

@@ -15,9 +15,6 @@
 namespace velmora {
 namespace {
 
-using cEnable = cRuleForm<cCmdWork>::cEnable;
-using cRows = cRuleForm<cCmdWork>::cRows;
-
 constexpr int kValueLimit = 999999;
 constexpr int kRightConstant = 0;
 constexpr int kRightRandom = 1;
@@ -101,13 +98,13 @@ std::vector<cFormRow> StatusOpRows(cCmdWork& w) {
 }
 
 template <eCondSide Side>
-std::vector<cEnable> SideEnableRules(const cSideParams& p) {
+std::vector<cCmdEnable> SideEnableRules(const cSideParams& p) {
   return {{ParamId(p.object), ObjectOn<Side>}, {ParamId(p.status), ObjectOn<Side>}, {ParamId(p.coord), CoordOn<Side>},
           {ParamId(p.giant), GiantOn<Side>},   {ParamId(p.scope), ScopeOn<Side>},   {ParamId(p.var), VarOn<Side>},
           {p.renameId, RenameOn<Side>}};
 }
 
-std::vector<cEnable> StatusOpEnables() {
+std::vector<cCmdEnable> StatusOpEnables() {
   return Joined(Joined(SideEnableRules<kLeft>(kLeftParams), SideEnableRules<kRight>(kRightParams)),
                 {
                     {ParamId(7), ConstantOn},

@@ -1,6 +1,7 @@
 #include "ui/commands/CmdDialog.h"
 
 #include <QSlider>
+#include <algorithm>
 
 #include "objects/CmdTable.h"
 #include "objects/CondSummary.h"
@@ -36,6 +37,18 @@ cCmdDialog::cCmdDialog(cDialogManager& manager, QWidget* parent, cCmdWork& work,
 void cCmdDialog::PrepareWork(cCmdWork& work) {
   cRuleDialog::PrepareWork(work);
   if (m_kind.condList) m_conds.SetData(&work.condList.m_vCond);
+  BringListsNearTheirRows();
+}
+
+// A combo box reckons the row of its field by subtracting its offset, which
+// a damaged value at the end of the 32-bit range would overflow. Such a
+// value goes to the nearest row in any case; here it goes near first.
+void cCmdDialog::BringListsNearTheirRows() {
+  constexpr double kNear = 1 << 30;
+  for (const cFormRow* row : ControlRows(m_form.rows)) {
+    const auto* combo = std::get_if<cComboDesc>(&row->control);
+    if (combo && combo->field.IsBound()) combo->field.Set(std::clamp(combo->field.Get(), -kNear, kNear));
+  }
 }
 
 bool cCmdDialog::Validate(const cCmdWork& work) { return !m_kind.accept || m_kind.accept(work, OwnerOf(Window())); }

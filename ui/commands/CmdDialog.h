@@ -25,6 +25,7 @@ class cCmdDialog : public cRuleDialog<cCmdWork> {
  private:
   void ShowTexts();
   void MoveSlidersOf(int editId);
+  void BringListsNearTheirRows();
 
   const cCmdKindForm& m_kind;
   cRecordListEdit<cEdCond> m_conds;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "core/SystemText.h"
 #include "objects/CondTables.h"
 #include "objects/GValInfo.h"
 #include "objects/ObjectList.h"
@@ -77,7 +78,7 @@ bool SideNamesCharaVar(const cEdCond& cond, eCondSide side) {
 int SideVarScope(const cEdCond& cond, eCondSide side) {
   const cCondSideView view = CondSide(cond, side);
   if (!view.namesVar) return -1;
-  return view.scope == kScopeStage ? kScopeStage : kScopeCommon;
+  return view.scope >= kScopeStage ? kScopeStage : kScopeCommon;
 }
 
 std::span<const cStatusInfo> StatusListOf(int object) {
@@ -115,6 +116,12 @@ void FollowFlagChoice(cEdCond& cond, const cEdCond& before) {
   if (flag && (otherList || cond.m_nLeftVar < flag->min || cond.m_nLeftVar > flag->max)) {
     cond.m_nLeftVar = static_cast<int16_t>(flag->def);
   }
+}
+
+std::string DistancePasteRefusal(const std::vector<cEdCond>& clipboard) {
+  const bool distance =
+      std::any_of(clipboard.begin(), clipboard.end(), [](const cEdCond& c) { return c.m_nKind == kCondDistance; });
+  return distance ? SysText("「距離条件」の貼り付けはできません！") : "";
 }
 
 cValueRange PressMaxRange(const cEdKeyCond& key) {

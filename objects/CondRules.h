@@ -1,5 +1,7 @@
 #pragma once
 #include <span>
+#include <string>
+#include <vector>
 
 #include "objects/Cond.h"
 #include "objects/KeyCond.h"
@@ -82,6 +84,12 @@ const cFlagInfo* ChosenFlag(const cEdCond& cond);
 // over at its first entry with that flag's default value, and a value that
 // the new flag doesn't have becomes the flag's default.
 void FollowFlagChoice(cEdCond& cond, const cEdCond& before);
+
+// ---- lists of conditions ----
+
+// Why the conditions of a block or an item can't take `clipboard`, in
+// CP932: a 距離条件 has no place there. "" lets it in.
+std::string DistancePasteRefusal(const std::vector<cEdCond>& clipboard);
 
 // ---- キー条件 ----
 

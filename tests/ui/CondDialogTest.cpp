@@ -1,6 +1,7 @@
 #include <climits>
 
 #include "CondDialogDriver.h"
+#include "objects/CondRules.h"
 #include "objects/CondSummary.h"
 #include "objects/CondTables.h"
 #include "ui/conditions/CondIds.h"
@@ -152,46 +153,25 @@ TEST_F(CondDialogs, StatusLimitsFollowTheLeftStatusAndBringValuesIntoThem) {
   EXPECT_EQ(Summary(record), "ステータス条件 ： 時間 が 5000 である");
 }
 
-TEST_F(CondDialogs, StatusSidesEnableWhatTheirTypeNames) {
+TEST_F(CondDialogs, StatusSidesEnableWhatTheirTypeNamesAndListItsVariables) {
   cEdCond record;
   ASSERT_TRUE(EditNew(record, kCondStatus, [](cDialog& d) {
-    // A new condition compares 自分's キャラ変数 with a constant.
-    EXPECT_TRUE(Enabled(d, kIdCondLeftObject));
-    EXPECT_TRUE(Enabled(d, kIdCondLeftVar));
-    EXPECT_FALSE(Enabled(d, kIdCondLeftVarName)) << "character variables have fixed names";
-    EXPECT_FALSE(Enabled(d, kIdCondLeftScope));
     EXPECT_EQ(Shown(d, kIdCondLeftVar), "1 キャラ変数-1");
-    EXPECT_TRUE(Enabled(d, kIdCondValue));
+    EXPECT_FALSE(Enabled(d, kIdCondLeftVarName)) << "character variables have fixed names";
     EXPECT_FALSE(Enabled(d, kIdCondRandMin));
-    EXPECT_FALSE(Enabled(d, kIdCondRightObject));
-
-    Choose(d, kIdCondLeftStatus, 7);  // Y座標
-    EXPECT_FALSE(Enabled(d, kIdCondLeftVar));
-    EXPECT_TRUE(Enabled(d, kIdCondLeftCoord));
-    EXPECT_FALSE(Enabled(d, kIdCondLeftGiant)) << "relative coordinates have no giant position";
+    Choose(d, kIdCondLeftStatus, kStatusY);
     Choose(d, kIdCondLeftCoord, 2);
+    EXPECT_FALSE(Enabled(d, kIdCondLeftVar));
     EXPECT_TRUE(Enabled(d, kIdCondLeftGiant));
-
     Choose(d, kIdCondLeftType, 1);  // 変数
     EXPECT_FALSE(Enabled(d, kIdCondLeftObject));
-    EXPECT_FALSE(Enabled(d, kIdCondLeftCoord));
     EXPECT_TRUE(Enabled(d, kIdCondLeftVarName));
-    EXPECT_EQ(Shown(d, kIdCondLeftVar), "001 体力");
     Choose(d, kIdCondLeftScope, 1);
-    EXPECT_EQ(Shown(d, kIdCondLeftVar), "001 残機");
     EXPECT_EQ(Rows(d, kIdCondLeftVar).size(), kCommonVarCount - 1);
-
     Choose(d, kIdCondRightType, 1);  // 乱数
     EXPECT_FALSE(Enabled(d, kIdCondValue));
     EXPECT_TRUE(Enabled(d, kIdCondRandMax));
-    Choose(d, kIdCondRightType, 2);  // ステータス
-    EXPECT_TRUE(Enabled(d, kIdCondRightStatus));
-    EXPECT_FALSE(Enabled(d, kIdCondRandMax));
-    Choose(d, kIdCondRightStatus, 6);  // X座標
-    EXPECT_TRUE(Enabled(d, kIdCondRightCoord));
-    EXPECT_FALSE(Enabled(d, kIdCondRightGiant));
     Choose(d, kIdCondRightType, 3);  // 変数
-    EXPECT_TRUE(Enabled(d, kIdCondRightVarName));
     Choose(d, kIdCondRightVar, 1);
     Click(d, kIdOk);
   }));
@@ -230,61 +210,52 @@ TEST_F(CondDialogs, FlagListsFollowTheObjectAndTheValueListTheFlag) {
   EXPECT_EQ(Summary(record), "ステータス条件2 ： ターゲット2 の 透明 が OFF である");
 }
 
-TEST_F(CondDialogs, RenameWithNoVariableOnlyBeeps) {
-  g_vecCommonVar.clear();
-  cEdCond record;
-  record.m_nKind = kCondCommonVar;
-  record.m_nLeftVar = 4;
-  ASSERT_TRUE(EditExisting(record, [](cDialog& d) {
-                EXPECT_EQ(ComboAt(d, kIdCondLeftVar)->currentIndex(), -1);
-                Click(d, kIdCondLeftVarName);
-                EXPECT_EQ(ModalDialog(), &d) << "no name was asked for";
-                Click(d, kIdCancel);
-              }) == false);
-  EXPECT_EQ(beeper.beeps, 1);
-  EXPECT_FALSE(FileExists(PathOf(ePath::GValInfo)));
-  EXPECT_EQ(record.m_nLeftVar, 4);
+// Types a new name into the name dialog that the next "_" opens.
+void AnswerName(const char* name) {
+  InModal([name](cDialog& input) {
+    EXPECT_EQ(input.Window()->windowTitle(), QString::fromUtf8("変数名の入力"));
+    TypeText(EditAt(input, 1003), QString::fromUtf8(name));
+    Click(input, kIdOk);
+  });
 }
 
-TEST_F(CondDialogs, RenamingACommonVariableWritesTheNamesAtOnceAndKeepsTheRowChosen) {
-  cEdCond record;
-  record.m_nKind = kCondCommonVar;
+TEST_F(CondDialogs, RenameWritesTheNamesWhereTheyLiveAndOnlyBeepsWithNoVariable) {
+  cEdCond record = NewCondition(kCondCommonVar);
   record.m_nLeftVar = 2;
   ASSERT_TRUE(EditExisting(record, [](cDialog& d) {
-    InModal([](cDialog& input) {
-      EXPECT_EQ(input.Window()->windowTitle(), QString::fromUtf8("変数名の入力"));
-      TypeText(EditAt(input, 1003), QString::fromUtf8("最大魔力値"));
-      Click(input, kIdOk);
-    });
+    AnswerName("最大魔力値");
     Click(d, kIdCondLeftVarName);
-    EXPECT_EQ(Shown(d, kIdCondLeftVar), "002 最大魔力値");
+    EXPECT_EQ(Shown(d, kIdCondLeftVar), "002 最大魔力値") << "the same row, named anew";
     Click(d, kIdOk);
   }));
   EXPECT_EQ(record.m_nLeftVar, 2);
   g_vecCommonVar.clear();
   ASSERT_TRUE(LoadCommonVars());
   EXPECT_EQ(ToUtf8(g_vecCommonVar[2].m_strName), "最大魔力値");
-  EXPECT_EQ(ToUtf8(g_vecCommonVar[1].m_strName), "体力");
   EXPECT_EQ(StageEdit().m_bStageChanged, 0);
-}
 
-TEST_F(CondDialogs, RenamingAStageVariableChangesTheStageAndNotTheCommonFile) {
-  cEdCond record;
-  record.m_nKind = kCondStatus;
-  record.m_nLeftType = 1;
-  record.m_nLeftScope = 1;
-  record.m_nLeftVar = 1;
+  // A stage's names stay with the stage, which now has changes to save.
+  ASSERT_TRUE(RemoveFile(PathOf(ePath::GValInfo)));
+  record = NewCondition(kCondStatus);
+  record.m_nLeftType = record.m_nLeftScope = 1;
   EXPECT_FALSE(EditExisting(record, [](cDialog& d) {
-    InModal([](cDialog& input) {
-      TypeText(EditAt(input, 1003), QString::fromUtf8("残機予備"));
-      Click(input, kIdOk);
-    });
+    AnswerName("残機予備");
     Click(d, kIdCondLeftVarName);
-    EXPECT_EQ(Shown(d, kIdCondLeftVar), "001 残機予備");
     Click(d, kIdCancel);
   }));
   EXPECT_EQ(ToUtf8(EditStage().m_vecStageVar[1].m_strName), "残機予備") << "a name is no part of the condition";
   EXPECT_EQ(StageEdit().m_bStageChanged, 1);
+  EXPECT_FALSE(FileExists(PathOf(ePath::GValInfo)));
+
+  g_vecCommonVar.clear();
+  record = NewCondition(kCondCommonVar);
+  EXPECT_FALSE(EditExisting(record, [](cDialog& d) {
+    EXPECT_EQ(ComboAt(d, kIdCondLeftVar)->currentIndex(), -1) << "no variable to choose";
+    Click(d, kIdCondLeftVarName);
+    EXPECT_EQ(ModalDialog(), &d) << "no name was asked for";
+    Click(d, kIdCancel);
+  }));
+  EXPECT_EQ(beeper.beeps, 1);
   EXPECT_FALSE(FileExists(PathOf(ePath::GValInfo)));
 }
 

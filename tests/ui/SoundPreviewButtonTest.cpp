@@ -63,12 +63,5 @@ TEST_F(SoundPreviewButton, PlaysTheRowItsComboShowsAndStopsWhenTheDialogCloses) 
   EXPECT_EQ(WavePlayer().PlayingRow(), -1);
 }
 
-TEST_F(SoundPreviewButton, AFileThatCantBePlayedIsTold) {
-  Choose(kIdBgm, 2);
-  Press(kIdBgmPlay);
-  EXPECT_EQ(prompt.LastText(), "読み込み失敗！");
-  EXPECT_TRUE(dialog.IsOpen());
-}
-
 }  // namespace
 }  // namespace velmora::testing

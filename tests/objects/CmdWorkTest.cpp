@@ -5,7 +5,6 @@
 #include "objects/CmdTable.h"
 #include "objects/ObjectList.h"
 #include "platform/TextCodec.h"
-#include "support/ScriptedPrompt.h"
 
 namespace velmora::testing {
 namespace {
@@ -57,7 +56,7 @@ TEST(CmdWork, OnlyKindsOfTheTablesAreEditable) {
 
 class MoveRatioRules : public ::testing::Test {
  protected:
-  cCmdWork Move(int setType, int dist, int speed, int time, int unit = 0) {
+  static cCmdWork Move(int setType, int dist, int speed, int time, int unit = 0) {
     cCmdWork work;
     work.move.m_nSetType = static_cast<uint8_t>(setType);
     work.move.m_nDist = static_cast<int16_t>(dist);
@@ -66,7 +65,6 @@ class MoveRatioRules : public ::testing::Test {
     work.cmd.m_nTime = static_cast<int16_t>(time);
     return work;
   }
-  cScriptedPrompt prompt;
 };
 
 TEST_F(MoveRatioRules, TheLinesTellTheRatioOfTheSettingsInUse) {
@@ -78,18 +76,6 @@ TEST_F(MoveRatioRules, TheLinesTellTheRatioOfTheSettingsInUse) {
   lines = MoveRatioLines(Move(kSetTimeSpeed, 3, 10, 5));
   EXPECT_TRUE(lines.ratio.empty());
   EXPECT_TRUE(lines.rule.empty());
-}
-
-TEST_F(MoveRatioRules, TheEndsOfBothRulesPass) {
-  EXPECT_TRUE(AcceptMoveRatio(Move(kSetSpeedDist, 16, -160, 1, 1), nullptr));
-  EXPECT_FALSE(AcceptMoveRatio(Move(kSetSpeedDist, 16, 161, 1, 1), nullptr));
-  EXPECT_TRUE(AcceptMoveRatio(Move(kSetTimeDist, 600, 10, 1, 1), nullptr));
-  EXPECT_TRUE(AcceptMoveRatio(Move(kSetTimeDist, -600, 10, 1, 1), nullptr));
-  ASSERT_EQ(prompt.Shown().size(), 1u);
-  EXPECT_FALSE(AcceptMoveRatio(Move(kSetTimeDist, 601, 10, 1, 1), nullptr));
-  prompt.QueueAnswer(eAnswer::Yes);
-  EXPECT_TRUE(AcceptMoveRatio(Move(kSetTimeDist, 601, 10, 1, 1), nullptr));
-  EXPECT_EQ(prompt.Shown().size(), 3u);
 }
 
 cCmdWork StatusOp(std::initializer_list<std::pair<int, int>> params) {

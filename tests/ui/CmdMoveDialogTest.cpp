@@ -71,9 +71,11 @@ TEST_F(LineMoveDialog, TimeAndDistanceAskBeyondSixHundredAndNoStaysOpen) {
   EXPECT_TRUE(PressOk());
   EXPECT_EQ(cmd.m_pMove->m_nDist, 64);
 
-  Set(kSetTimeDist, 600, 10, 16);
+  Set(kSetTimeDist, 600, 10, 1);
   cmd.m_pMove->m_nDistUnit = 1;
-  EXPECT_TRUE(PressOk()) << "600 dots in 16 tenths keeps to the rule";
+  EXPECT_TRUE(PressOk()) << "600 dots in a tenth is the end of the rule";
+  Set(kSetTimeDist, -600, 10, 1);
+  EXPECT_TRUE(PressOk());
 }
 
 TEST_F(LineMoveDialog, TimeAndSpeedRunNeitherRule) {

@@ -22,20 +22,20 @@ void cSystemPage::ClearCheck(int id) {
   if (cCheck* check = FindControlOf<cCheck>(id)) check->SetChecked(false);
 }
 
-cEditValDesc SpinEdit(int id, cValueField field, int minimum, int maximum) {
+cEditValDesc cSystemPage::SpinEdit(int id, cValueField field, int minimum, int maximum) {
   return cEditValDesc{id, field, static_cast<double>(minimum), static_cast<double>(maximum), id + kSystemSpinOffset, 1};
 }
 
-cEditStrDesc CharsEdit(int id, cTextField field, int chars) {
+cEditStrDesc cSystemPage::CharsEdit(int id, cTextField field, int chars) {
   cEditStrDesc desc = EditStrLine(id, field, chars, true);
   desc.byteLimit = 2 * chars;
   return desc;
 }
 
-cFormRow CheckRow(int id, cValueField field, const char* text) {
+cFormRow cSystemPage::CheckRow(int id, cValueField field, const char* text) {
   return {nullptr, cCheckDesc{id, field, text, true}};
 }
 
-cFormRow NoteRow(const char* text) { return {nullptr, cStaticDesc{0, text}}; }
+cFormRow cSystemPage::NoteRow(const char* text) { return {nullptr, cStaticDesc{0, text}}; }
 
 }  // namespace velmora

@@ -20,19 +20,18 @@ class cSystemPage : public cDialog {
   // Clears a check box as the author would; its field follows at OK.
   void ClearCheck(int id);
 
+  // The rows the pages are made of.
+  // A numeric edit with its spin buttons.
+  static cEditValDesc SpinEdit(int id, cValueField field, int minimum, int maximum);
+  // One line of at most `chars` characters, a full-width one counting as one.
+  static cEditStrDesc CharsEdit(int id, cTextField field, int chars);
+  // A check box whose long text wraps at the page's width.
+  static cFormRow CheckRow(int id, cValueField field, const char* text);
+  // A fixed text across the page.
+  static cFormRow NoteRow(const char* text);
+
  private:
   cEdSystem& m_work;
 };
-
-// The rows the pages are made of.
-
-// A numeric edit with its spin buttons.
-cEditValDesc SpinEdit(int id, cValueField field, int minimum, int maximum);
-// One line of at most `chars` characters, a full-width one counting as one.
-cEditStrDesc CharsEdit(int id, cTextField field, int chars);
-// A check box whose long text wraps at the page's width.
-cFormRow CheckRow(int id, cValueField field, const char* text);
-// A fixed text across the page.
-cFormRow NoteRow(const char* text);
 
 }  // namespace velmora

@@ -20,6 +20,7 @@
 #include "ui/framework/ToolStrip.h"
 #include "ui/framework/WindowFrame.h"
 #include "ui/stage/NewStageDialog.h"
+#include "ui/system/SystemSheet.h"
 #include "ui/worldmap/WorldMapEntry.h"
 
 namespace velmora {
@@ -85,7 +86,6 @@ void cStageWindow::OpenPalettes() {
   m_pPalettes = std::make_unique<cPaletteWindows>(Manager(), Window(), EditorConfig(), links);
   m_pPalettes->Create(FrameOf(*Window()));
   m_pPalettes->ShowLayer(StageEdit().m_iLayer);
-  InstallWorldMapEntry(*this);
   using A = eMenuAction;
   const std::pair<A, cPaletteWindows::eShown> toggles[] = {{A::CommonPalettes, cPaletteWindows::kCommonShown},
                                                            {A::StagePalettes, cPaletteWindows::kStageShown},
@@ -96,6 +96,8 @@ void cStageWindow::OpenPalettes() {
       UpdateStates();
     });
   }
+  InstallSystemWindow(*this);
+  InstallWorldMapEntry(*this);
 }
 
 bool cStageWindow::IsChecked(const cStageCommand& command) const {

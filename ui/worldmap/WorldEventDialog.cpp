@@ -5,7 +5,6 @@
 #include <cstdio>
 
 #include "core/AppControl.h"
-#include "core/ProjectFilePrompt.h"
 #include "core/SystemText.h"
 #include "graphics/FixedBitmaps.h"
 #include "objects/GValInfo.h"
@@ -13,6 +12,7 @@
 #include "stage/VarRename.h"
 #include "ui/controls/Combo.h"
 #include "ui/controls/ComboRows.h"
+#include "ui/controls/PathBrowse.h"
 #include "ui/controls/Picture.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/QtPrompt.h"
@@ -210,11 +210,11 @@ void cWorldEventDialog::FillVariableCombos() {
 }
 
 void cWorldEventDialog::BrowseStage() {
-  const cProjectFileAsk ask{"ステージファイルの選択", "data\\stg4", "StageFile ( *.stg4_* )", "*.stg4_*", "stg4_*"};
+  const cFilePrompt request =
+      FilePromptOf("ステージファイルの選択", "data\\stg4", "StageFile ( *.stg4_* )", "*.stg4_*", "stg4_*");
+  if (!BrowseIntoEdit(*this, kIdStartStage, request)) return;
   ApplyAll();
-  if (!AskProjectFile(OwnerOf(Window()), ask, m_page.m_strStartStage)) return;
   m_pages.Store();
-  RefreshAll();
 }
 
 }  // namespace velmora

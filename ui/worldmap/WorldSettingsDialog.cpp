@@ -1,11 +1,10 @@
 #include "ui/worldmap/WorldSettingsDialog.h"
 
-#include "core/ProjectFilePrompt.h"
 #include "graphics/ProjectPalette.h"
 #include "project/WorldMap.h"
+#include "ui/controls/PathBrowse.h"
 #include "ui/controls/Picture.h"
 #include "ui/framework/Commands.h"
-#include "ui/framework/QtPrompt.h"
 #include "ui/framework/QtText.h"
 
 namespace velmora {
@@ -48,9 +47,7 @@ void cWorldSettingsDialog::UpdateEnables() {
 
 void cWorldSettingsDialog::OnDialogCommand(int id, int notice) {
   if (id != kIdBrowse || notice != kNoticeClicked) return;
-  const cProjectFileAsk ask{"背景画像の選択", "bmp\\", "BitmapFile ( *.bmp )", "*.bmp", "bmp"};
-  ApplyAll();
-  if (AskProjectFile(OwnerOf(Window()), ask, Work().backPath)) RefreshAll();
+  BrowseIntoEdit(*this, kIdBackPath, FilePromptOf("背景画像の選択", "bmp\\", "BitmapFile ( *.bmp )", "*.bmp", "bmp"));
 }
 
 }  // namespace velmora

@@ -172,6 +172,16 @@ TEST_F(WorldMapInTheEditor, SpaceFlipsTheModesAndTheUnderscoreRenamesACommonVari
   QTest::qWait(20);  // the hook posts the key to the window
   EXPECT_EQ(WorldEdit().m_iMode, kWorldEventMode);
   ASSERT_NE(map->EventPalette(), nullptr);
+  QWidget* list = map->EventPalette()->Item(cEventPaletteWindow::kIdList);
+  map->EventPalette()->Window()->activateWindow();
+  QTest::qWait(20);
+  ASSERT_EQ(QApplication::activeWindow(), map->EventPalette()->Window());
+  list->setFocus();
+  QTest::keyClick(list, Qt::Key_Space);
+  QTest::qWait(20);
+  EXPECT_EQ(WorldEdit().m_iMode, kWorldChipMode) << "Space in the palette, which goes with its mode";
+  ASSERT_NE(map->ChipPalette(), nullptr);
+  Command(*map, kEventMode);
 
   EditorConfig().m_bEditIfPlaced = 1;
   WhenModal([this](QWidget* modal) {

@@ -1,6 +1,7 @@
 #include "ui/worldmap/WorldMapWindow.h"
 
 #include <QPainter>
+#include <QTimer>
 
 #include "core/EditConfig.h"
 #include "core/ProjectPaths.h"
@@ -190,7 +191,8 @@ void cWorldMapWindow::OpenSettings() {
 
 cWorldPaletteLinks cWorldMapWindow::PaletteLinks() {
   cWorldPaletteLinks links;
-  links.toggleMode = [this] { ToggleMode(); };
+  // The palette that took the key goes with the mode: after its event.
+  links.toggleMode = [this] { QTimer::singleShot(0, Window(), [this] { ToggleMode(); }); };
   links.changed = [this] {
     UpdateStates();
     Repaint();

@@ -1,6 +1,8 @@
 #include <QAction>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QStatusBar>
 #include <QTest>
 #include <QToolBar>
 #include <gtest/gtest.h>
@@ -204,6 +206,61 @@ TEST_F(WorldMapInTheEditor, SpaceFlipsTheModesAndTheUnderscoreRenamesACommonVari
   LoadCommonVars();
   EXPECT_EQ(VarName(kScopeCommon, 5), ToCp932("難易度")) << "data\\GValInfo.dat was written at once";
   EXPECT_EQ(WorldMap().m_vecEvents.size(), original.m_vecEvents.size());
+}
+
+TEST_F(WorldMapInTheEditor, TheChipPaletteFitsItsChipsAndNamesTheChosenOne) {
+  cChipPaletteWindow& chips = *map->ChipPalette();
+  const int rows = (static_cast<int>(WorldMap().m_vecChips.size()) + 4) / 5;
+  EXPECT_EQ(ClientOf(chips)->height(), rows * 32) << "no room below the last row of chips";
+  Click(chips, QPoint(4 * 32 + 16, 16));
+  EXPECT_EQ(WorldEdit().m_iCurrent, 4);
+  EXPECT_EQ(WorldEdit().m_iBrushW, 1);
+  const QString status = chips.Window()->findChild<QStatusBar*>()->findChild<QLabel*>()->text();
+  EXPECT_EQ(status, QString::fromUtf8("5 : ") + QString::fromStdString(ToUtf8(WorldMap().m_vecChips[4].m_strName)));
+  Click(chips, QPoint(4 * 32 + 16, rows * 32 - 1 + 32));  // below the chips
+  EXPECT_EQ(WorldEdit().m_iCurrent, 4);
+
+  WorldMap().m_vecChips.resize(3);  // as the database page may cut it
+  chips.Refresh();
+  EXPECT_TRUE(chips.Window()->findChild<QStatusBar*>()->findChild<QLabel*>()->text().isEmpty());
+  ClickCell(5, 5);
+  EXPECT_EQ(WorldMap().Cell(5, 5), original.Cell(5, 5)) << "a brush of a chip the list lost paints nothing";
+}
+
+TEST_F(WorldMapInTheEditor, TemplatesAreInsertedThroughTheEventDialogAndShareTheMapsClipboard) {
+  Command(*map, kEventMode);
+  cEventPaletteWindow& palette = *map->EventPalette();
+  const size_t before = WorldMap().m_vecTemplates.size();
+  WhenModal([](QWidget* modal) { DialogOf(modal).SendCommand(MakeCommand(kIdCancel, kNoticeClicked), 0); });
+  QTest::mouseClick(palette.Item(cEventPaletteWindow::kIdInsert), Qt::LeftButton);
+  EXPECT_EQ(WorldMap().m_vecTemplates.size(), before) << "Cancel takes the new template out again";
+  WhenModal([](QWidget* modal) {
+    cDialog& dialog = DialogOf(modal);
+    TypeInto(dialog, D::kIdName, QStringLiteral("town"));
+    dialog.SendCommand(MakeCommand(kIdOk, kNoticeClicked), 0);
+  });
+  QTest::mouseClick(palette.Item(cEventPaletteWindow::kIdInsert), Qt::LeftButton);
+  ASSERT_EQ(WorldMap().m_vecTemplates.size(), before + 1);
+  EXPECT_EQ(WorldEdit().m_Template.m_strName, "town") << "the new template is the one placed";
+  EXPECT_EQ(WorldEdit().m_bWorldDirty, 1);
+
+  cWorldTemplateList& templates = palette.Templates();
+  ASSERT_TRUE(templates.Copy());
+  const std::vector<cMenuItem> menu = WorldPopupMenu(map->Editor(), 9, 9);
+  ASSERT_EQ(menu.size(), 6u);
+  EXPECT_FALSE(menu[0].enabled) << "編集 wants an event on the cell";
+  EXPECT_TRUE(menu[3].enabled) << "貼り付け takes the template copied in the palette";
+}
+
+TEST_F(WorldMapInTheEditor, TheWorldMapSetGoesToTheTaskBarAndComesBackAsTheCurrentMode) {
+  Command(*map, kEventMode);
+  QWidget* palette = map->EventPalette()->Window();
+  app->StageWindowMinimised();
+  EXPECT_FALSE(palette->isVisible());
+  app->StageWindowRestored();
+  EXPECT_TRUE(palette->isVisible());
+  EXPECT_TRUE(map->Window()->isVisible());
+  EXPECT_FALSE(Stage().Window()->isVisible()) << "the stage editor's windows stay away in mode 1";
 }
 
 }  // namespace

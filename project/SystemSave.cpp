@@ -2,6 +2,7 @@
 
 #include "core/Log.h"
 #include "core/ProjectPaths.h"
+#include "core/SafeWrite.h"
 #include "core/SystemText.h"
 #include "project/SystemIniDefaults.h"
 #include "project/SystemRecord.h"
@@ -12,7 +13,7 @@ bool SaveSystemSettings(const cEdSystem& edited) {
   cEdSystem saved = edited;
   saved.CheckBgmIndices();
   const std::string& path = PathOf(ePath::System);
-  if (!saved.SaveFile(path)) {
+  if (!SaveRecordSafely(saved, path)) {
     ErrorBox(SysText("%s の保存に失敗しました！"), path.c_str());
     return false;
   }

@@ -7,7 +7,7 @@ cEffectKindView EffectKindView(const cEffectCatalog& catalog, int kind, bool col
   view.note = catalog.Note(kind);
   for (int slot = 0; slot < cEffectCatalog::kParamCount; ++slot) {
     const cEffectParamDef& def = catalog.Param(kind, slot);
-    view.slots[slot] = {def.m_strLabel, !def.m_strLabel.empty(), def.m_sMin, def.m_sMax};
+    view.params[slot] = {def.m_strLabel, !def.m_strLabel.empty(), def.m_sMin, def.m_sMax};
   }
   view.colourSwatch = colourKinds && kind == kColourChangeKind;
   return view;

@@ -17,7 +17,7 @@ struct cEffectSlotView {
 
 struct cEffectKindView {
   std::string note;  // CP932
-  cEffectSlotView slots[cEffectCatalog::kParamCount];
+  cEffectSlotView params[cEffectCatalog::kParamCount];
   bool colourSwatch = false;  // the colour number of slot kColourSlot is shown as a swatch
 };
 

@@ -123,20 +123,20 @@ TEST(EffectKindRulesTest, OnlyTheAuthorsChoiceOfAnotherKindFillsDefaults) {
 TEST(EffectKindRulesTest, ViewsTellLabelsLimitsAndTheColourSwatch) {
   const cEffectKindView colour = EffectKindView(CharaEffectCatalog(), kColourChangeKind, true);
   EXPECT_TRUE(colour.colourSwatch);
-  EXPECT_EQ(colour.slots[kColourSlot].label, ToCp932("色"));
-  EXPECT_EQ(colour.slots[kColourSlot].minimum, 16);
-  EXPECT_EQ(colour.slots[kColourSlot].maximum, 207);
-  EXPECT_FALSE(colour.slots[4].enabled);
+  EXPECT_EQ(colour.params[kColourSlot].label, ToCp932("色"));
+  EXPECT_EQ(colour.params[kColourSlot].minimum, 16);
+  EXPECT_EQ(colour.params[kColourSlot].maximum, 207);
+  EXPECT_FALSE(colour.params[4].enabled);
 
   const cEffectKindView blink = EffectKindView(CharaEffectCatalog(), 6, true);
   EXPECT_FALSE(blink.colourSwatch);
-  EXPECT_TRUE(blink.slots[1].enabled);
-  EXPECT_FALSE(blink.slots[2].enabled);
+  EXPECT_TRUE(blink.params[1].enabled);
+  EXPECT_FALSE(blink.params[2].enabled);
   EXPECT_EQ(blink.note, ToCp932("Direct3D有効時：速い\nDirect3D無効時：速い"));
 
   const cEffectKindView screen = EffectKindView(ScrEffectCatalog(), kColourChangeKind, false);
   EXPECT_FALSE(screen.colourSwatch) << "screen kind 13 is a mosaic";
-  EXPECT_EQ(EffectKindView(ScrEffectCatalog(), 11, false).slots[2].maximum, 6400);
+  EXPECT_EQ(EffectKindView(ScrEffectCatalog(), 11, false).params[2].maximum, 6400);
 }
 
 TEST(FileFieldRulesTest, ChosenFilesAreStoredRelativeAndNameTheirEntry) {

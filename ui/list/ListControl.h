@@ -24,6 +24,19 @@ inline constexpr cListKey kListKeys[] = {
     {Qt::Key_Delete, false, eListCommand::Delete, eListCommand::Clear},
 };
 
+// The keys of a list in a modeless window, whose keys reach it through
+// its accelerators: SetAccel with the list as the focus target.
+inline cAccelTable ListAccelerators(int listNumber, int family) {
+  const ListCommandIds ids = ListAcceleratorIds(listNumber, family);
+  cAccelTable table;
+  for (const cListKey& entry : kListKeys) {
+    const int first = ids[static_cast<int>(entry.first)];
+    const int command = first ? first : ids[static_cast<int>(entry.second)];
+    if (command) table.push_back({entry.key, entry.ctrl ? Qt::ControlModifier : Qt::NoModifier, command});
+  }
+  return table;
+}
+
 // A data list page as a control of its dialog: the dialog's refresh and
 // redraw refill it, a new selection refreshes the other controls, and the
 // dialog's commands, keys and pop-up menu reach the element commands.
@@ -33,7 +46,7 @@ class cListControl : public cList {
   cListControl(cDialog& parent, QListWidget* widget, int id, cListEdit<Element>& edit, int listNumber, int family)
       : cList(parent, widget, id),
         m_view(edit, widget, listNumber, family),
-        m_accelIds(ListAcceleratorIds(listNumber, family)) {
+        m_keys(ListAccelerators(listNumber, family)) {
     m_view.onRecordChanged = [this] { Parent().RefreshOthers(Id()); };
     m_view.choosePopup = [this](const std::vector<cMenuItem>& menu, const QPoint& screen) {
       if (const int chosen = choosePopup(menu, screen)) Parent().SendCommand(MakeCommand(chosen, kNoticeClicked), 0);
@@ -48,12 +61,12 @@ class cListControl : public cList {
   void OnRedraw() override { m_view.Show(); }
 
   void OnKey(int key, bool ctrl) override {
-    for (const cListKey& entry : kListKeys) {
-      if (entry.key != key || entry.ctrl != ctrl) continue;
-      const int id = AccelId(entry.first) ? AccelId(entry.first) : AccelId(entry.second);
-      if (id) Parent().SendCommand(MakeCommand(id, kNoticeAccelerator), 0);
+    if (const int id = MatchAccel(m_keys, key, ctrl ? Qt::ControlModifier : Qt::NoModifier)) {
+      Parent().SendCommand(MakeCommand(id, kNoticeAccelerator), 0);
     }
   }
+  // The same keys for a modeless window, to be given to SetAccel.
+  const cAccelTable& Keys() const { return m_keys; }
 
   // The page's command handler hands every id here; the command runs when
   // the list has the focus and the id is one of its own.
@@ -77,10 +90,8 @@ class cListControl : public cList {
   cListView<Element>& View() { return m_view; }
 
  private:
-  int AccelId(eListCommand command) const { return m_accelIds[static_cast<int>(command)]; }
-
   cListView<Element> m_view;
-  ListCommandIds m_accelIds;
+  cAccelTable m_keys;
 };
 
 }  // namespace velmora

@@ -1,4 +1,6 @@
 #pragma once
+#include <string>
+
 #include "objects/RefSizes.h"
 
 namespace velmora {
@@ -17,6 +19,10 @@ class cSoundPreview {
 
   // True when the row's file started.
   bool Play(eDbList list, int row);
+  // The same for a file that no row holds yet, as a database page edits
+  // it: a sound effect for the Sound list, music at `volume` for the Bgm
+  // list. An empty path plays nothing and says nothing.
+  bool PlayFile(eDbList list, const std::string& path, int volume);
   // Ends what this preview started last; the owner's window closes.
   void Stop();
 

@@ -91,6 +91,7 @@ struct cSliderDesc {
   int minimum = 0;
   int maximum = 0;
   int editId = 0;  // the companion numeric edit, bound to the same field
+  int pageStep = 0;  // what a click beside the handle moves; 0: the platform's
 };
 
 // A fixed text, possibly rewritten later by id.
@@ -109,11 +110,14 @@ struct cCustomDesc {
 // The "再生" button beside a choice of the Sound or Bgm list: it plays the
 // row that the combo box `comboId` shows, chosen or committed, tells
 // "読み込み失敗！" when the file can't be played, and stops what it started
-// when the dialog closes.
+// when the dialog closes. With `path` it plays that field's file instead,
+// music at the field `volume`, as a database page edits them.
 struct cSoundPreviewDesc {
   int id = 0;
   eDbList list = eDbList::Sound;
   int comboId = 0;
+  const std::string* path = nullptr;
+  const int32_t* volume = nullptr;
 };
 
 using cControlDesc = std::variant<cButtonDesc, cEditValDesc, cEditStrDesc, cPictureDesc, cCheckDesc, cComboDesc,

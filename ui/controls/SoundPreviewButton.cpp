@@ -11,7 +11,10 @@ cSoundPreviewButton::cSoundPreviewButton(cDialog& parent, QAbstractButton* butto
 }
 
 void cSoundPreviewButton::PlayShownRow() {
-  if (const cCombo* combo = Parent().FindControlOf<cCombo>(m_desc.comboId)) {
+  constexpr int kFullVolume = 100;
+  if (m_desc.path) {
+    m_preview.PlayFile(m_desc.list, *m_desc.path, m_desc.volume ? *m_desc.volume : kFullVolume);
+  } else if (const cCombo* combo = Parent().FindControlOf<cCombo>(m_desc.comboId)) {
     m_preview.Play(m_desc.list, combo->SelectedValue());
   }
 }

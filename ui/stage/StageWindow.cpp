@@ -23,6 +23,7 @@
 #include "ui/framework/DialogWindow.h"
 #include "ui/framework/QtText.h"
 #include "ui/framework/WindowFrame.h"
+#include "ui/database/DatabaseSheet.h"
 #include "ui/stage/NewStageDialog.h"
 
 namespace velmora {
@@ -78,6 +79,7 @@ bool cStageWindow::Open() {
   RestorePlace();
   ScrollToStart();
   OpenPalettes();
+  InstallDatabaseWindow(*this);
   return true;
 }
 

@@ -185,9 +185,9 @@ class cAnimeSetPage : public cAnimatedPage<cEdAnimeSet> {
   }
 
  private:
-  // The sample's fields edit a record of their own, since a set read from
-  // a damaged file may lack its first slot; it goes to the slot as the
-  // author changes it.
+  // The sample's fields edit a record of their own: an address inside the
+  // slots would not survive the working record taking another set. It
+  // goes to the first slot as the author changes it.
   void TakeSample() {
     const std::vector<cEdAnime>& setSlots = Work().m_vecAnime;
     m_sample = setSlots.empty() ? cEdAnime() : setSlots.front();
@@ -196,10 +196,9 @@ class cAnimeSetPage : public cAnimatedPage<cEdAnimeSet> {
     const auto* steps = qobject_cast<QListWidget*>(Item(kIdAnimeFrames));
     return steps && steps->currentRow() > 0 ? steps->currentRow() : 0;
   }
-  // A set has its four slots whatever its file held.
   void CopySampleToSlot(int slot) {
     std::vector<cEdAnime>& setSlots = Work().m_vecAnime;
-    if (setSlots.size() < cEdAnimeSet::kSlotCount) setSlots.resize(cEdAnimeSet::kSlotCount);
+    if (slot >= static_cast<int>(setSlots.size())) return;
     cEdAnime& target = setSlots[static_cast<size_t>(slot)];
     target.m_cSampleKind = m_sample.m_cSampleKind;
     target.m_iSampleNo = m_sample.m_iSampleNo;

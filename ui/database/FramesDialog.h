@@ -24,7 +24,8 @@ class cFramesDialog : public cRecordDialog<std::vector<Frame>> {
   };
   using RowTextFn = std::function<std::string(const Frame&)>;
 
-  enum eIds { kIdFrames = 1003, kIdInsert, kIdDelete, kIdCell, kIdCellSpin, kIdTime, kIdTimeSpin, kIdFrameOwn };
+  // Past the framework's own ids (the placeholder, the scroll bars).
+  enum eIds { kIdFrames = 1010, kIdInsert, kIdDelete, kIdCell, kIdCellSpin, kIdTime, kIdTimeSpin, kIdFrameOwn };
   static constexpr int kMaxFrames = 99;
 
   cFramesDialog(cDialogManager& manager, QWidget* parent, std::vector<Frame>& frames, RowTextFn rowText)

@@ -5,8 +5,9 @@
 namespace velmora {
 namespace {
 
+// Past the framework's own ids (the placeholder, the scroll bars).
 enum eSwordPosIds {
-  kIdOffsetX = 1003, kIdOffsetXSpin, kIdFlipX, kIdOffsetY, kIdOffsetYSpin, kIdFlipY, kIdDirection,
+  kIdOffsetX = 1010, kIdOffsetXSpin, kIdFlipX, kIdOffsetY, kIdOffsetYSpin, kIdFlipY, kIdDirection,
   kIdSrcX, kIdSrcXSpin, kIdSrcY, kIdSrcYSpin, kIdWidth, kIdWidthSpin, kIdHeight, kIdHeightSpin, kIdTime, kIdTimeSpin,
 };
 

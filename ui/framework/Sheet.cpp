@@ -68,6 +68,9 @@ void cSheet::Build() {
     if (cDialog* page = Page(index)) page->OnSetActive();
   });
   QObject::connect(m_pDialog, &QDialog::finished, m_pDialog, [this] {
+    // The pages end with the sheet, their controls at once, and with them
+    // whatever those started (a sound that plays).
+    for (const auto& page : m_pages) page->Close(m_nResult);
     if (onFinished) onFinished(m_nResult);
   });
   if (!m_bModal) {

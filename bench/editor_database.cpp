@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QImage>
 #include <QListWidget>
@@ -9,10 +8,10 @@
 #include <cstdlib>
 #include <string>
 
+#include "SampleFolder.h"
 #include "ThreadClock.h"
 #include "core/ProjectPaths.h"
 #include "project/Database.h"
-#include "sample/SampleProject.h"
 #include "ui/app/EditorApp.h"
 #include "ui/database/DatabaseSheet.h"
 #include "ui/database/DbListPage.h"
@@ -57,14 +56,8 @@ void Paint(QWidget* window) {
 int main(int argc, char** argv) {
   setenv("QT_QPA_PLATFORM", "offscreen", 0);
   QApplication application(argc, argv);
-  const QString folder =
-      QDir::temp().filePath(QStringLiteral("velmora-bench-database-%1").arg(QCoreApplication::applicationPid()));
-  std::string error;
-  if (!velmora::sample::MakeSampleProject(folder.toStdString(), false, error)) {
-    std::fprintf(stderr, "sample project: %s\n", error.c_str());
-    return 1;
-  }
-  QDir::setCurrent(folder);
+  const velmora::bench::cSampleFolder folder("database");
+  if (!folder.Made()) return 1;
   int result = 0;
   {
     velmora::cEditorApp editor;
@@ -93,7 +86,5 @@ int main(int argc, char** argv) {
       sheet->Close(0);
     }
   }
-  QDir::setCurrent(QDir::tempPath());
-  QDir(folder).removeRecursively();
   return result;
 }

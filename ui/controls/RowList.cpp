@@ -27,9 +27,7 @@ void cRowList::Refresh() {
 
 cFormRow RowListRow(int id, int shownRows, const char* label) {
   return {label, cCustomDesc{id, [shownRows](QWidget* parent) -> QWidget* {
-                               auto* list = new QListWidget(parent);
-                               list->setMinimumHeight(list->fontMetrics().height() * shownRows);
-                               return list;
+                               return NewListWidget(parent, 0, shownRows);
                              }}};
 }
 

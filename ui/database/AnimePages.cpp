@@ -95,6 +95,8 @@ class cAnimatedPage : public cDbListPage<Element> {
   cAnimePreviewPlayer m_preview{kIdAnimePreview};
 };
 
+}  // namespace
+
 // Page 2: an animation is its own sample.
 class cAnimePage : public cAnimatedPage<cEdAnime> {
  public:
@@ -208,14 +210,7 @@ class cAnimeSetPage : public cAnimatedPage<cEdAnimeSet> {
   cEdAnime m_sample;
 };
 
-}  // namespace
-
-std::unique_ptr<cDialog> MakeAnimeSetPage(cDialogManager& manager, cDatabaseWork& work) {
-  return std::make_unique<cAnimeSetPage>(manager, work);
-}
-
-std::unique_ptr<cDialog> MakeAnimePage(cDialogManager& manager, cDatabaseWork& work) {
-  return std::make_unique<cAnimePage>(manager, work);
-}
+template std::unique_ptr<cDialog> MakePage<cAnimeSetPage>(cDialogManager&, cDatabaseWork&);
+template std::unique_ptr<cDialog> MakePage<cAnimePage>(cDialogManager&, cDatabaseWork&);
 
 }  // namespace velmora

@@ -5,10 +5,7 @@
 #include "stage/PaletteOps.h"
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
-#include "ui/database/AnimePages.h"
-#include "ui/database/EffectPages.h"
-#include "ui/database/FilePages.h"
-#include "ui/database/ImagePages.h"
+#include "ui/database/PageMaker.h"
 #include "ui/framework/DialogManager.h"
 #include "ui/stage/StageWindow.h"
 
@@ -24,12 +21,12 @@ struct cPageRow {
 
 // The tabs in their order.
 constexpr cPageRow kPages[] = {
-    {MakeAnimeSetPage, "基本アニメセット"}, {MakeAnimePage, "アニメ"},
-    {MakeCharaBmpPage, "キャラの専用bmp"},  {MakeSwordTypePage, "ソードタイプ"},
-    {MakeEffectPage, "エフェクト"},         {MakeCharaEffectPage, "キャラエフェクト"},
-    {MakeScrEffectPage, "画面エフェクト"},  {MakePicturePage, "ピクチャー"},
-    {MakeSoundPage, "効果音"},              {MakeBgmPage, "BGM"},
-    {MakeWorldChipPage, "ワールドチップ"},
+    {MakePage<cAnimeSetPage>, "基本アニメセット"},  {MakePage<cAnimePage>, "アニメ"},
+    {MakePage<cCharaBmpPage>, "キャラの専用bmp"},   {MakePage<cSwordTypePage>, "ソードタイプ"},
+    {MakePage<cEffectPage>, "エフェクト"},          {MakePage<cCharaEffectPage>, "キャラエフェクト"},
+    {MakePage<cScrEffectPage>, "画面エフェクト"},   {MakePage<cPicturePage>, "ピクチャー"},
+    {MakePage<cSoundPage>, "効果音"},               {MakePage<cBgmPage>, "BGM"},
+    {MakePage<cWorldChipPage>, "ワールドチップ"},
 };
 
 cDatabaseSheet* g_pOpenSheet = nullptr;

@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "project/DatabaseListEdit.h"
+#include "ui/database/PageMaker.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/Dialog.h"
 #include "ui/list/FieldList.h"
@@ -104,5 +105,10 @@ class cDbListPage : public cDialog {
  private:
   int m_nMost;
 };
+
+template <class Page>
+std::unique_ptr<cDialog> MakePage(cDialogManager& manager, cDatabaseWork& work) {
+  return std::make_unique<Page>(manager, work);
+}
 
 }  // namespace velmora

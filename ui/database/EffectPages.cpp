@@ -35,12 +35,19 @@ class cKindEffectPage : public cDbListPage<Effect> {
 
 }  // namespace
 
-std::unique_ptr<cDialog> MakeCharaEffectPage(cDialogManager& manager, cDatabaseWork& work) {
-  return std::make_unique<cKindEffectPage<cEdCharaEffect>>(manager, work.db.m_CharaEffect, eDbList::CharaEffect, true);
-}
+class cCharaEffectPage : public cKindEffectPage<cEdCharaEffect> {
+ public:
+  cCharaEffectPage(cDialogManager& manager, cDatabaseWork& work)
+      : cKindEffectPage(manager, work.db.m_CharaEffect, eDbList::CharaEffect, true) {}
+};
 
-std::unique_ptr<cDialog> MakeScrEffectPage(cDialogManager& manager, cDatabaseWork& work) {
-  return std::make_unique<cKindEffectPage<cEdScrEffect>>(manager, work.db.m_ScrEffect, eDbList::ScrEffect, false);
-}
+class cScrEffectPage : public cKindEffectPage<cEdScrEffect> {
+ public:
+  cScrEffectPage(cDialogManager& manager, cDatabaseWork& work)
+      : cKindEffectPage(manager, work.db.m_ScrEffect, eDbList::ScrEffect, false) {}
+};
+
+template std::unique_ptr<cDialog> MakePage<cCharaEffectPage>(cDialogManager&, cDatabaseWork&);
+template std::unique_ptr<cDialog> MakePage<cScrEffectPage>(cDialogManager&, cDatabaseWork&);
 
 }  // namespace velmora

@@ -10,6 +10,8 @@ namespace {
 
 const cListRule& RuleOf(eDbList list) { return DbListInfo(list).rule; }
 
+}  // namespace
+
 class cCharaBmpPage : public cDbFilePage<cEdCharaBmp> {
  public:
   cCharaBmpPage(cDialogManager& manager, cDatabaseWork& work)
@@ -76,19 +78,9 @@ class cBgmPage : public cDbFilePage<cEdBgm> {
   }
 };
 
-}  // namespace
-
-std::unique_ptr<cDialog> MakeCharaBmpPage(cDialogManager& manager, cDatabaseWork& work) {
-  return std::make_unique<cCharaBmpPage>(manager, work);
-}
-std::unique_ptr<cDialog> MakePicturePage(cDialogManager& manager, cDatabaseWork& work) {
-  return std::make_unique<cPicturePage>(manager, work);
-}
-std::unique_ptr<cDialog> MakeSoundPage(cDialogManager& manager, cDatabaseWork& work) {
-  return std::make_unique<cSoundPage>(manager, work);
-}
-std::unique_ptr<cDialog> MakeBgmPage(cDialogManager& manager, cDatabaseWork& work) {
-  return std::make_unique<cBgmPage>(manager, work);
-}
+template std::unique_ptr<cDialog> MakePage<cCharaBmpPage>(cDialogManager&, cDatabaseWork&);
+template std::unique_ptr<cDialog> MakePage<cPicturePage>(cDialogManager&, cDatabaseWork&);
+template std::unique_ptr<cDialog> MakePage<cSoundPage>(cDialogManager&, cDatabaseWork&);
+template std::unique_ptr<cDialog> MakePage<cBgmPage>(cDialogManager&, cDatabaseWork&);
 
 }  // namespace velmora

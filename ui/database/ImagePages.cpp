@@ -23,6 +23,8 @@ constexpr int kChipSheetColumns = 5;
 constexpr int kChipCell = 32;
 constexpr int kShownSteps = 6;
 
+}  // namespace
+
 // Page 4: the positions of a swing, each edited in dialog 223.
 class cSwordTypePage : public cDbFilePage<cEdSwordType> {
  public:
@@ -136,16 +138,8 @@ class cWorldChipPage : public cDbListPage<cEdWorldChip> {
   cSurface m_chip;
 };
 
-}  // namespace
-
-std::unique_ptr<cDialog> MakeSwordTypePage(cDialogManager& manager, cDatabaseWork& work) {
-  return std::make_unique<cSwordTypePage>(manager, work);
-}
-std::unique_ptr<cDialog> MakeEffectPage(cDialogManager& manager, cDatabaseWork& work) {
-  return std::make_unique<cEffectPage>(manager, work);
-}
-std::unique_ptr<cDialog> MakeWorldChipPage(cDialogManager& manager, cDatabaseWork& work) {
-  return std::make_unique<cWorldChipPage>(manager, work);
-}
+template std::unique_ptr<cDialog> MakePage<cSwordTypePage>(cDialogManager&, cDatabaseWork&);
+template std::unique_ptr<cDialog> MakePage<cEffectPage>(cDialogManager&, cDatabaseWork&);
+template std::unique_ptr<cDialog> MakePage<cWorldChipPage>(cDialogManager&, cDatabaseWork&);
 
 }  // namespace velmora

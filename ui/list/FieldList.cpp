@@ -7,9 +7,7 @@ constexpr int kShownRows = 16;
 constexpr int kShownChars = 22;
 
 QWidget* MakeFieldListWidget(QWidget* parent) {
-  auto* list = new QListWidget(parent);
-  const QFontMetrics metrics(list->font());
-  list->setMinimumSize(metrics.averageCharWidth() * kShownChars, metrics.height() * kShownRows);
+  QListWidget* list = NewListWidget(parent, kShownChars, kShownRows);
   // Thousands of rows of one height: the view needn't measure each.
   list->setUniformItemSizes(true);
   return list;

@@ -7,12 +7,7 @@ namespace {
 constexpr int kShownRows = 8;
 constexpr int kShownChars = 48;
 
-QWidget* MakeRecordListWidget(QWidget* parent) {
-  auto* list = new QListWidget(parent);
-  const QFontMetrics metrics(list->font());
-  list->setMinimumSize(metrics.averageCharWidth() * kShownChars, metrics.height() * kShownRows);
-  return list;
-}
+QWidget* MakeRecordListWidget(QWidget* parent) { return NewListWidget(parent, kShownChars, kShownRows); }
 
 }  // namespace
 

@@ -1,5 +1,7 @@
 #include "objects/CondTables.h"
 
+#include <iterator>
+
 namespace velmora {
 namespace {
 
@@ -9,6 +11,8 @@ const char* const kCondJudge[] = {"全ての条件が真なら成立", "1つ以�
 const char* const kKeyJudge[] = {"全てのキーが真なら成立", "1つ以上のキーが真なら成立",
                                  "1つだけキーが真なら成立"};
 const char* const kKeyState[] = {"--", "押", "離"};
+const char* const kKeyName[] = {"方向キーニュートラル", "←", "→", "↑", "↓", "←↑", "←↓", "→↑", "→↓",
+                                "方向キーのいずれか", "アクションキーニュートラル", "Z", "X", "C", "V", "A", "S", "D", "F"};
 const char* const kCondRelation[] = {"である", "でない", "以上",         "以下",
                                      "より上", "より下", "の倍数である", "の倍数でない"};
 const char* const kCondBool[] = {"なら", "でないなら"};
@@ -27,12 +31,15 @@ const char* const kDistColor[] = {"赤", "緑", "青", "黄", "赤紫", "青紫"
 const char* const kCharaState[] = {"左向き", "右向き", "ブロックに乗っている(ブロックキャラも含む)", "画面内にいる",
                                    "存在している"};
 
+static_assert(std::size(kKeyName) == kKeyCount);
+
 }  // namespace
 
 const cLabelTable CondKindTable{kCondKind};
 const cLabelTable CondJudgeTable{kCondJudge};
 const cLabelTable KeyJudgeTable{kKeyJudge};
 const cLabelTable KeyStateTable{kKeyState};
+const cLabelTable KeyNameTable{kKeyName};
 const cLabelTable CondRelationTable{kCondRelation};
 const cLabelTable CondBoolTable{kCondBool};
 const cLabelTable LeftTypeTable{kLeftType};

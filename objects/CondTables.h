@@ -9,6 +9,7 @@ extern const cLabelTable CondKindTable;      // stored 1 to 7; row 0 is the unse
 extern const cLabelTable CondJudgeTable;
 extern const cLabelTable KeyJudgeTable;
 extern const cLabelTable KeyStateTable;
+extern const cLabelTable KeyNameTable;       // the keys of m_vKeyState, in stored order
 extern const cLabelTable CondRelationTable;
 extern const cLabelTable CondBoolTable;
 extern const cLabelTable LeftTypeTable;

@@ -9,6 +9,9 @@
 
 namespace velmora {
 
+// Every list grows, not the animations alone, and it is the project's own
+// list that grows, not only the copy: the lists' record rule holds here,
+// where the pages' rules would grow the animations' copy alone.
 cDatabaseWork OpenDatabaseWork() {
   cEdDatabase& db = Database();
   for (int i = 0; i < kDbListCount; ++i) {

@@ -77,6 +77,8 @@ void InstallDatabaseWindow(cStageWindow& stage) {
       GiveWindowsBack(stage, result);
     };
     g_pOpenSheet->Start();
+    // Its owner is out of sight, so the sheet takes the owner's place.
+    if (stage.Window() && g_pOpenSheet) g_pOpenSheet->Window()->move(stage.Window()->frameGeometry().topLeft());
   });
 }
 

@@ -71,14 +71,7 @@ class cFieldList {
   // The dialog's command: when it is a field's change, the fields are
   // committed and the selected element takes the working record.
   bool StoreIfFieldChanged(uint32_t wParam) {
-    if (!m_pDialog || !m_pControl) return false;
-    const int changed = m_pDialog->FindChanged(wParam);
-    const cControl* control = changed ? m_pDialog->FindControl(changed) : nullptr;
-    if (!control || control->Kind() == eControlKind::Button || control->Kind() == eControlKind::List) return false;
-    m_pDialog->ApplyAll();
-    if (onFieldChanged) onFieldChanged(changed);
-    StoreWork();
-    return true;
+    return m_pControl && m_pControl->StoreIfFieldChanged(wParam, onFieldChanged);
   }
 
   // The working record changed by other means (a sub-dialog's OK).

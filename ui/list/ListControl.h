@@ -75,11 +75,15 @@ class cListControl : public cList {
   }
 
   // A field control changed: the fields are committed and the selected
-  // element takes the working record, so its row reads anew at once.
-  bool StoreIfFieldChanged(uint32_t wParam) {
+  // element takes the working record, so its row reads anew at once. The
+  // page's own rules for the changed field run in between. A click of a
+  // button or another list's selection changes no field.
+  bool StoreIfFieldChanged(uint32_t wParam, const std::function<void(int id)>& rules = nullptr) {
     const int changed = Parent().FindChanged(wParam);
-    if (changed == 0 || changed == Id()) return false;
+    const cControl* control = changed ? Parent().FindControl(changed) : nullptr;
+    if (!control || control->Kind() == eControlKind::Button || control->Kind() == eControlKind::List) return false;
     Parent().ApplyAll();
+    if (rules) rules(changed);
     m_view.StoreWork();
     return true;
   }

@@ -46,42 +46,47 @@ class cFieldList {
     auto* widget = qobject_cast<QListWidget*>(dialog.Item(listId));
     if (!widget) return nullptr;
     auto made = std::make_unique<cListControl<Element>>(dialog, widget, listId, edit, listNumber, family);
-    m_pControl = made.get();
+    cListControl<Element>* control = made.get();
     m_pDialog = &dialog;
+    m_nListId = listId;
     dialog.AddControl(std::move(made));
-    if (dialog.IsModeless()) dialog.SetAccel(listId, m_pControl->Keys());
-    m_pControl->View().onRecordChanged = [this] { ShowRecord(); };
-    return m_pControl;
+    if (dialog.IsModeless()) dialog.SetAccel(listId, control->Keys());
+    control->View().onRecordChanged = [this] { ShowRecord(); };
+    return control;
   }
-  cListControl<Element>* Control() const { return m_pControl; }
+  // The list control while the dialog holds its controls, else null: a
+  // closing dialog ends them before its last commands are through.
+  cListControl<Element>* Control() const {
+    return m_pDialog ? m_pDialog->template FindControlOf<cListControl<Element>>(m_nListId) : nullptr;
+  }
 
   // The fields show the working record anew.
   void ShowRecord() {
-    if (!m_pDialog || !m_pControl) return;
+    if (!Control()) return;
     if (beforeShown) beforeShown();
-    m_pDialog->RefreshOthers(m_pControl->Id());
+    m_pDialog->RefreshOthers(m_nListId);
     if (afterShown) afterShown();
   }
 
   // An element command of a button or of the list's menu and keys; false
   // when it couldn't work.
-  bool Run(eListCommand command) { return m_pControl && m_pControl->View().Execute(command); }
-  bool RunListCommand(int id) { return m_pControl && m_pControl->OnListCommand(id); }
+  bool Run(eListCommand command) { return Control() && Control()->View().Execute(command); }
+  bool RunListCommand(int id) { return Control() && Control()->OnListCommand(id); }
 
   // The dialog's command: when it is a field's change, the fields are
   // committed and the selected element takes the working record.
   bool StoreIfFieldChanged(uint32_t wParam) {
-    return m_pControl && m_pControl->StoreIfFieldChanged(wParam, onFieldChanged);
+    return Control() && Control()->StoreIfFieldChanged(wParam, onFieldChanged);
   }
 
   // The working record changed by other means (a sub-dialog's OK).
   void StoreWork() {
-    if (m_pControl) m_pControl->View().StoreWork();
+    if (Control()) Control()->View().StoreWork();
   }
 
  private:
   cDialog* m_pDialog = nullptr;
-  cListControl<Element>* m_pControl = nullptr;
+  int m_nListId = 0;
 };
 
 // The list widget of a list page: room for a dozen rows of a name.

@@ -2,12 +2,15 @@
 
 #include <QColor>
 #include <QImage>
+#include <QLabel>
+#include <algorithm>
 
 #include "graphics/ProjectPalette.h"
 #include "ui/controls/ComboRows.h"
 #include "ui/controls/EditVal.h"
 #include "ui/controls/Picture.h"
 #include "ui/framework/Dialog.h"
+#include "ui/framework/QtText.h"
 
 namespace velmora {
 namespace {
@@ -40,6 +43,26 @@ std::vector<cFormRow> cEffectKindBinder::Rows(int32_t* kind, int32_t* params) {
 }
 
 bool cEffectKindBinder::IsParamId(int id) const { return id >= ParamId(0) && id < ParamId(cEffectCatalog::kParamCount); }
+
+void cEffectKindBinder::FitTexts(cDialog& dialog) const {
+  auto* note = qobject_cast<QLabel*>(dialog.Item(NoteId()));
+  auto* label = qobject_cast<QLabel*>(dialog.Item(LabelId(0)));
+  if (!note || !label) return;
+  int noteWidth = 0;
+  int labelWidth = 0;
+  const QFontMetrics metrics = label->fontMetrics();
+  for (int kind = 0; kind < m_catalog.KindCount(); ++kind) {
+    noteWidth = std::max(noteWidth, metrics.boundingRect(QRect(), 0, FromCp932(m_catalog.Note(kind))).width());
+    for (int slot = 0; slot < cEffectCatalog::kParamCount; ++slot) {
+      const QString text = FromCp932(m_catalog.Param(kind, slot).m_strLabel);
+      labelWidth = std::max(labelWidth, metrics.horizontalAdvance(text));
+    }
+  }
+  note->setMinimumWidth(noteWidth);
+  for (int slot = 0; slot < cEffectCatalog::kParamCount; ++slot) {
+    if (QWidget* item = dialog.Item(LabelId(slot))) item->setFixedWidth(labelWidth);
+  }
+}
 
 void cEffectKindBinder::WidenLimits(cDialog& dialog) const {
   for (int slot = 0; slot < cEffectCatalog::kParamCount; ++slot) {

@@ -23,6 +23,10 @@ class cEffectKindBinder {
   int KindId() const { return m_nFirstId; }
   bool IsParamId(int id) const;
 
+  // Once the controls are bound: the note and the labels take the room of
+  // the longest the catalogue has, so that no kind's text is cut and the
+  // edits stand in one column whatever their labels.
+  void FitTexts(cDialog& dialog) const;
   // Before a stored record is shown: limits wide enough for any value.
   void WidenLimits(cDialog& dialog) const;
   // A record was shown: its kind's note, labels and limits, with no value

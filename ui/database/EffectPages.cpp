@@ -18,6 +18,10 @@ class cKindEffectPage : public cDbListPage<Effect> {
   }
 
  protected:
+  void BindOwnControls() override {
+    cDbListPage<Effect>::BindOwnControls();
+    m_binder.FitTexts(*this);
+  }
   void BeforeRecordShown() override { m_binder.WidenLimits(*this); }
   void AfterRecordShown() override {
     m_binder.RecordShown(*this, this->Work().m_iKind, this->Work().m_aiParam);

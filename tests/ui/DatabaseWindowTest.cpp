@@ -280,6 +280,23 @@ TEST_F(DatabaseWindow, TheSampleNumberFollowsItsKindAndTheObjectList) {
   EXPECT_EQ(anime.Work().m_iSampleNo, 3);
 }
 
+TEST_F(DatabaseWindow, TheCountIsOfTheRowsShown) {
+  Open();
+  auto& anime = Page<cEdAnime>(kTabAnime);
+  Select(anime, 2);
+  WhenModal([](QWidget* modal) {
+    auto* edit = modal->findChild<QLineEdit*>();
+    edit->selectAll();
+    TypeText(edit, QStringLiteral("2"));
+    QTest::keyClick(edit, Qt::Key_Return);
+  });
+  Press(anime, kIdDbCount);
+  EXPECT_EQ(Sheet().Work().db.m_Anime.Count(), 3) << "two rows behind the reserved entry";
+  EXPECT_EQ(List(anime)->count(), 2);
+  EXPECT_EQ(List(anime)->currentRow(), 0) << "the selection fell off the end";
+  EXPECT_EQ(ToUtf8(anime.Work().m_strName), "コイン");
+}
+
 // The list's keys reach it through the page's accelerators, and cut and
 // paste overwrite in place.
 TEST_F(DatabaseWindow, KeysCutAndPasteEntriesInPlace) {

@@ -17,14 +17,16 @@ const Entry* EntryWithFile(const cDbList<Entry>& list, eDbList which, int row) {
   return entry && !entry->m_strPath.empty() ? entry : nullptr;
 }
 
-bool StartSound(const std::string& file) {
-  std::string path = file;
-  return WavePlayer().PlayFile(nullptr, 0, path, 0) == 1;
-}
+bool StartSound(std::string path) { return WavePlayer().PlayFile(nullptr, 0, path, 0) == 1; }
 
 bool StartMusic(const std::string& path, int volume) {
   MusicPlayer().SetTrack(0, path, volume);
   return MusicPlayer().Play(0, 0, true, true) == 1;
+}
+
+bool ToldIfFailed(bool started) {
+  if (!started) ErrorBoxText(SysText("読み込み失敗！"));
+  return started;
 }
 
 }  // namespace
@@ -32,22 +34,25 @@ bool StartMusic(const std::string& path, int volume) {
 bool cSoundPreview::Play(eDbList list, int row) {
   if (list == eDbList::Sound) {
     const cEdSound* entry = EntryWithFile(Database().m_Sound, list, row);
-    return entry && PlayFile(list, entry->m_strPath, 0);
+    return entry && PlaySoundFile(entry->m_strPath);
   }
   if (list == eDbList::Bgm) {
     const cEdBgm* entry = EntryWithFile(Database().m_Bgm, list, row);
-    return entry && PlayFile(list, entry->m_strPath, entry->m_iVolume);
+    return entry && PlayMusicFile(entry->m_strPath, entry->m_iVolume);
   }
   return false;
 }
 
-bool cSoundPreview::PlayFile(eDbList list, const std::string& path, int volume) {
-  if (path.empty() || (list != eDbList::Sound && list != eDbList::Bgm)) return false;
-  bool started = false;
-  if (list == eDbList::Sound) started = m_bSound = StartSound(path);
-  else started = m_bMusic = StartMusic(path, volume);
-  if (!started) ErrorBoxText(SysText("読み込み失敗！"));
-  return started;
+bool cSoundPreview::PlaySoundFile(const std::string& path) {
+  if (path.empty()) return false;
+  m_bSound = StartSound(path);
+  return ToldIfFailed(m_bSound);
+}
+
+bool cSoundPreview::PlayMusicFile(const std::string& path, int volume) {
+  if (path.empty()) return false;
+  m_bMusic = StartMusic(path, volume);
+  return ToldIfFailed(m_bMusic);
 }
 
 void cSoundPreview::Stop() {

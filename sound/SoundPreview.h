@@ -19,10 +19,12 @@ class cSoundPreview {
 
   // True when the row's file started.
   bool Play(eDbList list, int row);
-  // The same for a file that no row holds yet, as a database page edits
-  // it: a sound effect for the Sound list, music at `volume` for the Bgm
-  // list. An empty path plays nothing and says nothing.
-  bool PlayFile(eDbList list, const std::string& path, int volume);
+  // A sound effect named by its stored path rather than by a row: the
+  // same once through the wave preview; an empty path plays nothing.
+  bool PlaySoundFile(const std::string& path);
+  // Music named by its stored path, at `volume`, as a database page edits
+  // it; an empty path plays nothing.
+  bool PlayMusicFile(const std::string& path, int volume);
   // Ends what this preview started last; the owner's window closes.
   void Stop();
 

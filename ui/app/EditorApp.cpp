@@ -16,7 +16,6 @@
 #include "core/ProjectPaths.h"
 #include "core/SaveData.h"
 #include "core/SheetSize.h"
-#include "core/SystemIni.h"
 #include "core/SystemText.h"
 #include "stage/TestPlay.h"
 #include "core/TimedBackup.h"
@@ -31,7 +30,6 @@
 #include "project/ExitSave.h"
 #include "project/ProjectLoad.h"
 #include "project/SystemIniDefaults.h"
-#include "project/SystemRecord.h"
 #include "sound/MusicPlayer.h"
 #include "sound/WavePlayer.h"
 #include "stage/StageEdit.h"
@@ -79,11 +77,6 @@ void ResetEditTools(cStageEdit& edit) {
   edit.m_iBrushW = edit.m_iBrushH = 1;
   edit.m_iRangeX = edit.m_iRangeY = -1;
   edit.m_bDrag = 0;
-}
-
-cSystemIni& EditorIni() {
-  static cSystemIni ini;
-  return ini;
 }
 
 }  // namespace
@@ -156,7 +149,7 @@ bool cEditorApp::InitApp() {
   }
   OpenLastStage(EditorConfig().m_strLastStage);
   InstallStageHooks();
-  ReadSystemIni();
+  ReadProjectSystemIni();
   if (!StartSound()) return false;
   if (!CreateHostWindow()) {
     StopOutOfMemory();
@@ -172,16 +165,8 @@ bool cEditorApp::InitApp() {
   return true;
 }
 
-void cEditorApp::ReadSystemIni() {
-  cSystemIniDefaults defaults;
-  FillSystemIniDefaults(SystemRecord(), defaults);
-  cSystemIni& ini = EditorIni();
-  ResetSystemIni(ini, defaults);
-  if (!LoadSystemIni("System.ini", ini, defaults)) ResetSystemIni(ini, defaults);
-}
-
 bool cEditorApp::StartSound() {
-  MusicPlayer().Init(1, g_aOggTracks, g_aMidiTracks, 1, EditorIni().nMidiDirectMusic);
+  MusicPlayer().Init(1, g_aOggTracks, g_aMidiTracks, 1, ProjectSystemIni().nMidiDirectMusic);
   MusicPlayer().SetTrack(0, "bgm\\Free.ogg", 100);
   return WavePlayer().Open("waveaudio", {"wave\\free.wav"}) != 0;
 }

@@ -71,7 +71,6 @@ class cEditorApp : public cStageWindowHost {
   void CollectEndedChildren();
   void RepaintPalettesSoon();
   void OpenLastEditedStage();
-  void ReadSystemIni();
   bool StartSound();
   bool CreateHostWindow();
   bool CreateStageWindow();

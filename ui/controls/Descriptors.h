@@ -74,6 +74,9 @@ struct cCheckDesc {
   int id = 0;
   cValueField field;  // 0 or 1
   const char* text = "";  // UTF-8, beside the box
+  // A long text wraps at the width the form gives it rather than widening
+  // the dialog; a click on it still toggles the box.
+  bool wrap = false;
 };
 
 struct cComboDesc {
@@ -110,14 +113,16 @@ struct cCustomDesc {
 // The "再生" button beside a choice of the Sound or Bgm list: it plays the
 // row that the combo box `comboId` shows, chosen or committed, tells
 // "読み込み失敗！" when the file can't be played, and stops what it started
-// when the dialog closes. With `path` it plays that field's file instead,
-// music at the field `volume`, as a database page edits them.
+// when the dialog closes. Beside a path edit instead, `pathId`, it plays the
+// file whose stored path the edit shows: a sound effect for the Sound list,
+// music for the Bgm list at the volume the numeric edit `volumeId` shows
+// (full without one).
 struct cSoundPreviewDesc {
   int id = 0;
   eDbList list = eDbList::Sound;
   int comboId = 0;
-  const std::string* path = nullptr;
-  const int32_t* volume = nullptr;
+  int pathId = 0;
+  int volumeId = 0;
 };
 
 using cControlDesc = std::variant<cButtonDesc, cEditValDesc, cEditStrDesc, cPictureDesc, cCheckDesc, cComboDesc,

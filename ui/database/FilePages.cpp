@@ -50,7 +50,7 @@ class cSoundPage : public cDbFilePage<cEdSound> {
       : cDbFilePage(manager, work.db.m_Sound.m_vecEntries, RuleOf(eDbList::Sound),
                     {{&cEdSound::m_strPath, eFileField::Sound, "パス"}}) {
     std::vector<cFormRow> rows = FileRows();
-    rows.push_back({nullptr, cSoundPreviewDesc{kIdSoundPlay, eDbList::Sound, 0, &Work().m_strPath}});
+    rows.push_back({nullptr, cSoundPreviewDesc{kIdSoundPlay, eDbList::Sound, 0, kIdDbPath}});
     // A label too long for the label column wraps across the page.
     rows.push_back({"※Wave拡張フォーマットが無効かつ非圧縮のPCM形式のみ対応（もしゲーム側で再生されない場合は形式変換が必要）",
                     cStaticDesc{kIdSoundNote, ""}});
@@ -67,7 +67,7 @@ class cBgmPage : public cDbFilePage<cEdBgm> {
     std::vector<cFormRow> rows = FileRows();
     rows.push_back({"ボリューム(%)", cSliderDesc{kIdBgmVolume, &Work().m_iVolume, 0, 100, kIdBgmVolumeShown, kVolumePage}});
     rows.push_back({nullptr, cEditValDesc{kIdBgmVolumeShown, &Work().m_iVolume, 0, 100}, nullptr, nullptr, true});
-    rows.push_back({nullptr, cSoundPreviewDesc{kIdSoundPlay, eDbList::Bgm, 0, &Work().m_strPath, &Work().m_iVolume}});
+    rows.push_back({nullptr, cSoundPreviewDesc{kIdSoundPlay, eDbList::Bgm, 0, kIdDbPath, kIdBgmVolumeShown}});
     SetFieldRows(std::move(rows));
   }
 

@@ -25,6 +25,7 @@
 #include "ui/framework/WindowFrame.h"
 #include "ui/database/DatabaseSheet.h"
 #include "ui/stage/NewStageDialog.h"
+#include "ui/system/SystemSheet.h"
 
 namespace velmora {
 namespace {
@@ -101,6 +102,7 @@ void cStageWindow::OpenPalettes() {
       UpdateStates();
     });
   }
+  InstallSystemWindow(*this);
 }
 
 bool cStageWindow::IsChecked(const cStageCommand& command) const {

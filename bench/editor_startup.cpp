@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QImage>
 #include <cstdio>
@@ -7,8 +6,8 @@
 #include <string>
 
 #include "FullStage.h"
+#include "SampleFolder.h"
 #include "ThreadClock.h"
-#include "sample/SampleProject.h"
 #include "stage/Stage.h"
 #include "ui/app/EditorApp.h"
 #include "ui/framework/DialogWindow.h"
@@ -41,13 +40,8 @@ double RepaintMs(QWidget* client) {
 int main(int argc, char** argv) {
   setenv("QT_QPA_PLATFORM", "offscreen", 0);
   QApplication application(argc, argv);
-  const QString folder = QDir::temp().filePath(QStringLiteral("velmora-bench-startup-%1").arg(QCoreApplication::applicationPid()));
-  std::string error;
-  if (!velmora::sample::MakeSampleProject(folder.toStdString(), false, error)) {
-    std::fprintf(stderr, "sample project: %s\n", error.c_str());
-    return 1;
-  }
-  QDir::setCurrent(folder);
+  const velmora::bench::cSampleFolder folder("startup");
+  if (!folder.Made()) return 1;
   int result = 0;
   {
     QElapsedTimer clock;
@@ -73,7 +67,5 @@ int main(int argc, char** argv) {
       std::printf("BENCH repaint_large_ms %.3f ms target <= 4\n", RepaintMs(client));
     }
   }
-  QDir::setCurrent(QDir::tempPath());
-  QDir(folder).removeRecursively();
   return result;
 }

@@ -62,13 +62,16 @@ class cListEdit {
   // The texts of every row, numbered and followed by the tail row as set.
   std::vector<std::string> Fill() {
     std::vector<std::string> rows;
-    for (int row = 0; row < Count(); ++row) {
-      std::string text = m_RowText ? m_RowText(row, Element_(row)) : std::string();
-      rows.push_back(m_bNumber ? NumberedRowText(row + 1, Count(), text) : text);
-    }
+    for (int row = 0; row < Count(); ++row) rows.push_back(RowText(row));
     if (m_bTailRow) rows.push_back(m_strTail);
     m_vecSelFlag.resize(rows.size(), 0);
     return rows;
+  }
+
+  // The text of one real row as Fill gives it.
+  std::string RowText(int row) {
+    std::string text = m_RowText ? m_RowText(row, Element_(row)) : std::string();
+    return m_bNumber ? NumberedRowText(row + 1, Count(), text) : text;
   }
 
   // After a refill: a selection that is gone falls back on the saved one,
@@ -150,7 +153,7 @@ class cListEdit {
     return true;
   }
 
-  bool Cut() {
+  virtual bool Cut() {
     if (!Copy() || !Delete(-1, false)) return false;
     m_nLastOp = 0;
     return true;
@@ -236,13 +239,15 @@ class cListEdit {
     return true;
   }
 
- private:
+ protected:
   Element& Element_(int row) { return VecAt(*m_lpData, row + m_nHead); }
 
   bool Beep() {
     AppControl().Beep();
     return false;
   }
+
+ private:
   bool Full() const { return Count() >= m_nMax; }
   bool AnyFlag() const {
     for (int32_t f : m_vecSelFlag)

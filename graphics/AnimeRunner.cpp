@@ -1,5 +1,7 @@
 #include "graphics/AnimeRunner.h"
 
+#include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace velmora {
@@ -76,7 +78,11 @@ cAnimePattern PreviewPattern(const std::vector<cEdAnimeFrame>& frames) {
   constexpr int kTicksPerTenth = 6;
   cAnimePattern pattern;
   pattern.reserve(frames.size() + 1);
-  for (const cEdAnimeFrame& frame : frames) pattern.push_back({frame.m_iCell, frame.m_iTime * kTicksPerTenth, 0});
+  // A time from a damaged file may be any number; its ticks stay a number.
+  constexpr int32_t kLongestTime = std::numeric_limits<int32_t>::max() / kTicksPerTenth;
+  for (const cEdAnimeFrame& frame : frames) {
+    pattern.push_back({frame.m_iCell, std::clamp(frame.m_iTime, -kLongestTime, kLongestTime) * kTicksPerTenth, 0});
+  }
   pattern.push_back({kAnimeRestart, 0, 0});
   return pattern;
 }

@@ -19,35 +19,40 @@ const Entry* EntryWithFile(const cDbList<Entry>& list, eDbList which, int row) {
 
 bool StartSound(std::string path) { return WavePlayer().PlayFile(nullptr, 0, path, 0) == 1; }
 
-bool StartMusic(const cEdBgm& entry) {
-  MusicPlayer().SetTrack(0, entry.m_strPath, entry.m_iVolume);
+bool StartMusic(const std::string& path, int volume) {
+  MusicPlayer().SetTrack(0, path, volume);
   return MusicPlayer().Play(0, 0, true, true) == 1;
+}
+
+bool ToldIfFailed(bool started) {
+  if (!started) ErrorBoxText(SysText("読み込み失敗！"));
+  return started;
 }
 
 }  // namespace
 
 bool cSoundPreview::Play(eDbList list, int row) {
-  bool started = false;
   if (list == eDbList::Sound) {
     const cEdSound* entry = EntryWithFile(Database().m_Sound, list, row);
-    if (!entry) return false;
-    started = m_bSound = StartSound(entry->m_strPath);
-  } else if (list == eDbList::Bgm) {
-    const cEdBgm* entry = EntryWithFile(Database().m_Bgm, list, row);
-    if (!entry) return false;
-    started = m_bMusic = StartMusic(*entry);
-  } else {
-    return false;
+    return entry && PlaySoundFile(entry->m_strPath);
   }
-  if (!started) ErrorBoxText(SysText("読み込み失敗！"));
-  return started;
+  if (list == eDbList::Bgm) {
+    const cEdBgm* entry = EntryWithFile(Database().m_Bgm, list, row);
+    return entry && PlayMusicFile(entry->m_strPath, entry->m_iVolume);
+  }
+  return false;
 }
 
 bool cSoundPreview::PlaySoundFile(const std::string& path) {
   if (path.empty()) return false;
   m_bSound = StartSound(path);
-  if (!m_bSound) ErrorBoxText(SysText("読み込み失敗！"));
-  return m_bSound;
+  return ToldIfFailed(m_bSound);
+}
+
+bool cSoundPreview::PlayMusicFile(const std::string& path, int volume) {
+  if (path.empty()) return false;
+  m_bMusic = StartMusic(path, volume);
+  return ToldIfFailed(m_bMusic);
 }
 
 void cSoundPreview::Stop() {

@@ -22,6 +22,9 @@ class cSoundPreview {
   // A sound effect named by its stored path rather than by a row: the
   // same once through the wave preview; an empty path plays nothing.
   bool PlaySoundFile(const std::string& path);
+  // Music named by its stored path, at `volume`, as a database page edits
+  // it; an empty path plays nothing.
+  bool PlayMusicFile(const std::string& path, int volume);
   // Ends what this preview started last; the owner's window closes.
   void Stop();
 

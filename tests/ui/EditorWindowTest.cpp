@@ -182,7 +182,7 @@ TEST_F(EditorWindow, ClosingTheStageRebuildsAnEmptyWindow) {
   // Without a stage the view stays black and the stage commands are off.
   Stage()->RenderView();
   EXPECT_EQ(Stage()->View().Image().ColourAt(0, 0), 0u);
-  EXPECT_FALSE(Stage()->HasHandler(eMenuAction::Database));
+  EXPECT_TRUE(Stage()->HasHandler(eMenuAction::Database)) << "the database needs no stage";
 }
 
 TEST_F(EditorWindow, CloseBoxAsksAboutChangesAndCancelKeepsTheWindow) {

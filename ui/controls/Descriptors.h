@@ -94,6 +94,7 @@ struct cSliderDesc {
   int minimum = 0;
   int maximum = 0;
   int editId = 0;  // the companion numeric edit, bound to the same field
+  int pageStep = 0;  // what a click beside the handle moves; 0: the platform's
 };
 
 // A fixed text, possibly rewritten later by id.
@@ -113,12 +114,15 @@ struct cCustomDesc {
 // row that the combo box `comboId` shows, chosen or committed, tells
 // "読み込み失敗！" when the file can't be played, and stops what it started
 // when the dialog closes. Beside a path edit instead, `pathId`, it plays the
-// sound effect file whose stored path the edit shows.
+// file whose stored path the edit shows: a sound effect for the Sound list,
+// music for the Bgm list at the volume the numeric edit `volumeId` shows
+// (full without one).
 struct cSoundPreviewDesc {
   int id = 0;
   eDbList list = eDbList::Sound;
   int comboId = 0;
   int pathId = 0;
+  int volumeId = 0;
 };
 
 using cControlDesc = std::variant<cButtonDesc, cEditValDesc, cEditStrDesc, cPictureDesc, cCheckDesc, cComboDesc,

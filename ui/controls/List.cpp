@@ -37,4 +37,11 @@ cList::~cList() {
 
 void cList::OnAfterCommand() { m_pList->setUpdatesEnabled(true); }
 
+QListWidget* NewListWidget(QWidget* parent, int chars, int rows) {
+  auto* list = new QListWidget(parent);
+  const QFontMetrics metrics(list->font());
+  list->setMinimumSize(metrics.averageCharWidth() * chars, metrics.height() * rows);
+  return list;
+}
+
 }  // namespace velmora

@@ -21,4 +21,8 @@ class cList : public cControl {
   QObject* m_pFocusFilter;
 };
 
+// A list widget with room for `rows` rows of `chars` characters; 0 chars
+// leaves its width to the layout.
+QListWidget* NewListWidget(QWidget* parent, int chars, int rows);
+
 }  // namespace velmora

@@ -1,5 +1,7 @@
 #include "ui/controls/Picture.h"
 
+#include <QPainter>
+
 #include "ui/controls/EditWidgets.h"
 
 namespace velmora {
@@ -12,6 +14,11 @@ cPicture::cPicture(cDialog& parent, cPictureView* view, const cPictureDesc& desc
 QImage& cPicture::BeginDraw() {
   m_back.fill(0);
   return m_back;
+}
+
+void cPicture::Show(const QImage& image) {
+  QPainter(&BeginDraw()).drawImage(0, 0, image);
+  Present();
 }
 
 void cPicture::Present() {

@@ -16,6 +16,8 @@ class cPicture : public cControl {
   // Filled with colour 0 and ready for drawing.
   QImage& BeginDraw();
   void Present();
+  // Draws a finished picture and presents it.
+  void Show(const QImage& image);
 
  private:
   cPictureView* m_pView;

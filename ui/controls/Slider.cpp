@@ -12,6 +12,7 @@ cSlider::cSlider(cDialog& parent, QSlider* slider, const cSliderDesc& desc)
       m_field(desc.field),
       m_nEditId(desc.editId) {
   slider->setRange(desc.minimum, desc.maximum);
+  if (desc.pageStep > 0) slider->setPageStep(desc.pageStep);
   Listen(slider, &QSlider::actionTriggered, [this](int action) { Parent().Scroll(m_pSlider, action); });
   Refresh();
 }

@@ -2,6 +2,7 @@
 
 #include "ui/controls/Combo.h"
 #include "ui/controls/EditStr.h"
+#include "ui/controls/EditVal.h"
 #include "ui/framework/Dialog.h"
 
 namespace velmora {
@@ -13,10 +14,17 @@ cSoundPreviewButton::cSoundPreviewButton(cDialog& parent, QAbstractButton* butto
 
 void cSoundPreviewButton::PlayShownRow() {
   if (const cEditStr* path = Parent().FindControlOf<cEditStr>(m_desc.pathId)) {
-    m_preview.PlaySoundFile(path->Text());
+    if (m_desc.list == eDbList::Bgm) m_preview.PlayMusicFile(path->Text(), ShownVolume());
+    else m_preview.PlaySoundFile(path->Text());
   } else if (const cCombo* combo = Parent().FindControlOf<cCombo>(m_desc.comboId)) {
     m_preview.Play(m_desc.list, combo->SelectedValue());
   }
+}
+
+int cSoundPreviewButton::ShownVolume() const {
+  constexpr int kFullVolume = 100;
+  cEditVal* volume = Parent().FindControlOf<cEditVal>(m_desc.volumeId);
+  return volume ? static_cast<int>(volume->GetValue()) : kFullVolume;
 }
 
 }  // namespace velmora

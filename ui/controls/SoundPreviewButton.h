@@ -16,6 +16,7 @@ class cSoundPreviewButton : public cControl {
 
  private:
   void PlayShownRow();
+  int ShownVolume() const;
 
   cSoundPreviewDesc m_desc;
   cSoundPreview m_preview;

@@ -148,7 +148,7 @@ void cDialog::OnWindowDestroyed() {
   if (!m_pWindow && !m_bSetUp) return;
   DestroyControls();
   if (m_pWindow) cHook::Unregister(m_pWindow);
-  if (m_bModeless && m_nWindowKind == kStandAlone && m_bSetUp) m_manager.Remove(this);
+  if (m_bModeless && m_bSetUp) m_manager.Remove(this);
   m_pWindow = nullptr;
   m_bSetUp = false;
   m_bGeometryDone = false;
@@ -196,7 +196,9 @@ void cDialog::InitBase() {
 
 void cDialog::OnInitDialog() {
   InitBase();
-  if (m_bModeless && m_nWindowKind == kStandAlone) m_manager.Add(this);
+  // The pages of a modeless sheet are open windows too: their accelerators
+  // and idle calls come through the manager like any window's.
+  if (m_bModeless) m_manager.Add(this);
   // The placeholder stays as the window's focus target but shows nothing.
   auto* placeholder = new QWidget(m_pWindow->Client());
   placeholder->setFixedSize(0, 0);

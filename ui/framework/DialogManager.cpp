@@ -30,6 +30,9 @@ bool HasFocus(const cDialog& dialog, int focusId) {
   return item && focus && (focus == item || item->isAncestorOf(focus));
 }
 
+// A page comes and goes with its sheet.
+bool IsTopLevel(const cDialog& dialog) { return dialog.Window() && dialog.WindowKind() != cDialog::kPage; }
+
 // A window that goes without having been entered points at a fault in the
 // window's own bookkeeping; the author is told.
 template <class T>
@@ -71,7 +74,7 @@ bool cDialogManager::Contains(const cDialog* dialog) const {
 
 void cDialogManager::ShowAll(bool show) {
   for (cDialog* dialog : m_windows) {
-    if (dialog->Window()) dialog->Window()->setVisible(show);
+    if (IsTopLevel(*dialog)) dialog->Window()->setVisible(show);
   }
   for (cSheet* sheet : m_sheets) {
     if (sheet->Window()) sheet->Window()->setVisible(show);
@@ -80,7 +83,7 @@ void cDialogManager::ShowAll(bool show) {
 
 void cDialogManager::EnableAll(bool enable) {
   for (cDialog* dialog : m_windows) {
-    if (dialog->Window()) dialog->Window()->setEnabled(enable);
+    if (IsTopLevel(*dialog)) dialog->Window()->setEnabled(enable);
   }
   for (cSheet* sheet : m_sheets) {
     if (sheet->Window()) sheet->Window()->setEnabled(enable);

@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QSize>
 #include <QString>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -41,6 +42,10 @@ class cSheet {
   bool IsFinished() const { return m_bStarted && !m_pWindow; }
   bool IsModal() const { return m_bModal; }
   bool HasChanges() const { return m_bChanged; }
+  // Runs when the window has closed, with 1 for OK and 0 otherwise; a
+  // modeless sheet is torn down after it.
+  std::function<void(int result)> onFinished;
+
   // A page tells the sheet that the author changed something on it.
   void PageChanged(cDialog* page);
   // OK: every page, then the sheet. Public so that a test or a caller can

@@ -24,6 +24,19 @@ inline constexpr cListKey kListKeys[] = {
     {Qt::Key_Delete, false, eListCommand::Delete, eListCommand::Clear},
 };
 
+// The keys of a list in a modeless window, whose keys reach it through
+// its accelerators: SetAccel with the list as the focus target.
+inline cAccelTable ListAccelerators(int listNumber, int family) {
+  const ListCommandIds ids = ListAcceleratorIds(listNumber, family);
+  cAccelTable table;
+  for (const cListKey& entry : kListKeys) {
+    const int first = ids[static_cast<int>(entry.first)];
+    const int command = first ? first : ids[static_cast<int>(entry.second)];
+    if (command) table.push_back({entry.key, entry.ctrl ? Qt::ControlModifier : Qt::NoModifier, command});
+  }
+  return table;
+}
+
 // A data list page as a control of its dialog: the dialog's refresh and
 // redraw refill it, a new selection refreshes the other controls, and the
 // dialog's commands, keys and pop-up menu reach the element commands.
@@ -33,7 +46,7 @@ class cListControl : public cList {
   cListControl(cDialog& parent, QListWidget* widget, int id, cListEdit<Element>& edit, int listNumber, int family)
       : cList(parent, widget, id),
         m_view(edit, widget, listNumber, family),
-        m_accelIds(ListAcceleratorIds(listNumber, family)) {
+        m_keys(ListAccelerators(listNumber, family)) {
     m_view.onRecordChanged = [this] { Parent().RefreshOthers(Id()); };
     m_view.choosePopup = [this](const std::vector<cMenuItem>& menu, const QPoint& screen) {
       if (const int chosen = choosePopup(menu, screen)) Parent().SendCommand(MakeCommand(chosen, kNoticeClicked), 0);
@@ -48,22 +61,12 @@ class cListControl : public cList {
   void OnRedraw() override { m_view.Show(); }
 
   void OnKey(int key, bool ctrl) override {
-    for (const cListKey& entry : kListKeys) {
-      if (entry.key != key || entry.ctrl != ctrl) continue;
-      if (const int id = KeyId(entry)) Parent().SendCommand(MakeCommand(id, kNoticeAccelerator), 0);
+    if (const int id = MatchAccel(m_keys, key, ctrl ? Qt::ControlModifier : Qt::NoModifier)) {
+      Parent().SendCommand(MakeCommand(id, kNoticeAccelerator), 0);
     }
   }
-
-  // The same keys as a table for a window without a modal loop, where keys
-  // held with Ctrl reach only the accelerators: bind it to the list's id.
-  cAccelTable Accelerators() const {
-    cAccelTable table;
-    for (const cListKey& entry : kListKeys) {
-      const Qt::KeyboardModifiers modifiers = entry.ctrl ? Qt::ControlModifier : Qt::NoModifier;
-      if (const int id = KeyId(entry)) table.push_back({entry.key, modifiers, id});
-    }
-    return table;
-  }
+  // The same keys for a modeless window, to be given to SetAccel.
+  const cAccelTable& Keys() const { return m_keys; }
 
   // The page's command handler hands every id here; the command runs when
   // the list has the focus and the id is one of its own.
@@ -72,11 +75,15 @@ class cListControl : public cList {
   }
 
   // A field control changed: the fields are committed and the selected
-  // element takes the working record, so its row reads anew at once.
-  bool StoreIfFieldChanged(uint32_t wParam) {
+  // element takes the working record, so its row reads anew at once. The
+  // page's own rules for the changed field run in between. A click of a
+  // button or another list's selection changes no field.
+  bool StoreIfFieldChanged(uint32_t wParam, const std::function<void(int id)>& rules = nullptr) {
     const int changed = Parent().FindChanged(wParam);
-    if (changed == 0 || changed == Id()) return false;
+    const cControl* control = changed ? Parent().FindControl(changed) : nullptr;
+    if (!control || control->Kind() == eControlKind::Button || control->Kind() == eControlKind::List) return false;
     Parent().ApplyAll();
+    if (rules) rules(changed);
     m_view.StoreWork();
     return true;
   }
@@ -87,11 +94,8 @@ class cListControl : public cList {
   cListView<Element>& View() { return m_view; }
 
  private:
-  int AccelId(eListCommand command) const { return m_accelIds[static_cast<int>(command)]; }
-  int KeyId(const cListKey& entry) const { return AccelId(entry.first) ? AccelId(entry.first) : AccelId(entry.second); }
-
   cListView<Element> m_view;
-  ListCommandIds m_accelIds;
+  cAccelTable m_keys;
 };
 
 }  // namespace velmora

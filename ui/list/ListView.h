@@ -100,9 +100,14 @@ class cListView {
   }
 
   // A field of the working record changed: the element takes it at once.
+  // Only its own row can read differently, so a list of thousands of rows
+  // isn't filled anew for each key the author types.
   void StoreWork() {
     m_edit.Store();
-    Show();
+    const int row = m_edit.m_nSel;
+    if (!m_edit.IsRealRow(row) || row >= m_pWidget->count()) return Show();
+    const QSignalBlocker block(m_pWidget);
+    m_pWidget->item(row)->setText(QString::fromStdString(ToUtf8(m_edit.RowText(row))));
   }
 
  private:

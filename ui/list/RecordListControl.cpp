@@ -8,10 +8,7 @@ constexpr int kShownRows = 8;
 constexpr int kShownChars = 48;
 
 QWidget* MakeRecordListWidget(QWidget* parent, int chars) {
-  auto* list = new QListWidget(parent);
-  const QFontMetrics metrics(list->font());
-  list->setMinimumSize(metrics.averageCharWidth() * (chars > 0 ? chars : kShownChars), metrics.height() * kShownRows);
-  return list;
+  return NewListWidget(parent, chars > 0 ? chars : kShownChars, kShownRows);
 }
 
 }  // namespace

@@ -19,6 +19,7 @@
 #include "ui/framework/QtText.h"
 #include "ui/framework/ToolStrip.h"
 #include "ui/framework/WindowFrame.h"
+#include "ui/database/DatabaseSheet.h"
 #include "ui/stage/NewStageDialog.h"
 #include "ui/system/SystemSheet.h"
 #include "ui/worldmap/WorldMapEntry.h"
@@ -75,6 +76,7 @@ bool cStageWindow::Open() {
   RestorePlace();
   ScrollToStart();
   OpenPalettes();
+  InstallDatabaseWindow(*this);
   return true;
 }
 

@@ -48,7 +48,7 @@ void cEventPaletteWindow::BindOwnControls() {
     shown();
     SelectionChanged();
   };
-  SetAccel(kIdList, m_pList->Accelerators());
+  SetAccel(kIdList, m_pList->Keys());
 }
 
 void cEventPaletteWindow::SelectionChanged() {

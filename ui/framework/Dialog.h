@@ -71,6 +71,8 @@ class cDialog {
   virtual void OnInitDialog();
   // The client area took a new size; the geometry is already updated.
   virtual void OnSize() {}
+  // A page of a sheet came to the front.
+  virtual void OnSetActive() {}
 
   // Opening and closing.
   bool Create(int flags, bool show);

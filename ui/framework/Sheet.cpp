@@ -44,6 +44,9 @@ void cSheet::Build() {
   m_pWindow->setWindowTitle(m_title);
   auto* column = new QVBoxLayout(m_pWindow);
   m_pTabs = new QTabWidget(m_pWindow);
+  // Every tab stays in sight, as on a property sheet: the frame grows to
+  // hold them rather than scrolling them away.
+  m_pTabs->setUsesScrollButtons(false);
   column->addWidget(m_pTabs, 1);
   for (size_t i = 0; i < m_pages.size(); ++i) {
     cDialog& page = *m_pages[i];
@@ -51,6 +54,9 @@ void cSheet::Build() {
     ScalePage(*page.Window());
     m_pTabs->addTab(page.Window(), m_tabTitles[i]);
   }
+  // A sheet of one page is a plain dialog: no tab stands over it.
+  m_pTabs->setTabBarAutoHide(true);
+  m_pTabs->setCurrentIndex(m_nStartPage);
   // Like a property sheet, the frame wraps its pages and keeps that size.
   column->setSizeConstraint(QLayout::SetFixedSize);
   auto* buttons = new QDialogButtonBox(m_pWindow);
@@ -61,6 +67,15 @@ void cSheet::Build() {
     if (ApplyPages()) Close(1);
   });
   QObject::connect(buttons, &QDialogButtonBox::rejected, m_pDialog, [this] { Close(0); });
+  QObject::connect(m_pTabs, &QTabWidget::currentChanged, m_pDialog, [this](int index) {
+    if (cDialog* page = Page(index)) page->OnSetActive();
+  });
+  QObject::connect(m_pDialog, &QDialog::finished, m_pDialog, [this] {
+    // The pages end with the sheet, their controls at once, and with them
+    // whatever those started (a sound that plays).
+    for (const auto& page : m_pages) page->Close(m_nResult);
+    if (onFinished) onFinished(m_nResult);
+  });
   if (!m_bModal) {
     QObject::connect(m_pDialog, &QDialog::finished, m_pDialog, [this] { m_pDialog->deleteLater(); });
     // The manager tears a closed sheet down from its filter; an event makes
@@ -86,6 +101,7 @@ int cSheet::Start() {
   m_bStarted = true;
   m_nResult = 0;
   Build();
+  if (cDialog* page = CurrentPage()) page->OnSetActive();
   if (m_bModal) {
     m_pDialog->exec();
     delete m_pWindow.data();

@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QSize>
 #include <QString>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -28,6 +29,8 @@ class cSheet {
   cSheet& operator=(const cSheet&) = delete;
 
   void AddPage(std::unique_ptr<cDialog> page, const QString& tabTitle);
+  // The page in front when the sheet opens; before Start.
+  void SetStartPage(int index) { m_nStartPage = index; }
   // Modal: runs to the end and gives 1 for OK, 0 for Cancel. Modeless:
   // shows the sheet and gives 1; the manager deletes a modeless sheet
   // once the author closed it.
@@ -41,6 +44,10 @@ class cSheet {
   bool IsFinished() const { return m_bStarted && !m_pWindow; }
   bool IsModal() const { return m_bModal; }
   bool HasChanges() const { return m_bChanged; }
+  // Runs when the window has closed, with 1 for OK and 0 otherwise; a
+  // modeless sheet is torn down after it.
+  std::function<void(int result)> onFinished;
+
   // A page tells the sheet that the author changed something on it.
   void PageChanged(cDialog* page);
   // OK: every page, then the sheet. Public so that a test or a caller can
@@ -67,6 +74,7 @@ class cSheet {
   bool m_bStarted = false;
   bool m_bChanged = false;
   int m_nResult = 0;
+  int m_nStartPage = 0;
   // Held as a QWidget: the manager may ask about the window while it is
   // being destroyed, when it is no longer a QDialog.
   QPointer<QWidget> m_pWindow;

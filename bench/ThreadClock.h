@@ -12,4 +12,12 @@ inline double ThreadMs() {
   return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
+// The processor time of one round of `work`, averaged over `rounds`.
+template <class Work>
+double AverageMs(int rounds, Work work) {
+  const double start = ThreadMs();
+  for (int i = 0; i < rounds; ++i) work();
+  return (ThreadMs() - start) / rounds;
+}
+
 }  // namespace velmora::bench

@@ -15,24 +15,13 @@
 
 using namespace velmora;
 
-namespace {
-
-template <class Work>
-double AverageMs(int rounds, Work work) {
-  const double start = bench::ThreadMs();
-  for (int i = 0; i < rounds; ++i) work();
-  return (bench::ThreadMs() - start) / rounds;
-}
-
-}  // namespace
-
 int main() {
   char folder[] = "/tmp/velmora-bench-XXXXXX";
   if (!::mkdtemp(folder)) return 1;
   std::filesystem::current_path(folder);
   if (!WriteSamplePictures() || !LoadPaletteBitmaps()) return 1;
 
-  const double loadMs = AverageMs(10, [] { LoadFixedBitmaps("bmp\\Back.bmp", "bmp\\WorldBack.bmp"); });
+  const double loadMs = bench::AverageMs(10, [] { LoadFixedBitmaps("bmp\\Back.bmp", "bmp\\WorldBack.bmp"); });
   std::printf("BENCH fixed_bitmaps_load_ms %.3f ms target <= 50\n", loadMs);
 
   cStage stage;
@@ -47,7 +36,7 @@ int main() {
   if (!view.CreateSurface(640, 480, 32, false)) return 1;
   const cViewOptions options;
   int scroll = 0;
-  const double renderMs = AverageMs(200, [&] {
+  const double renderMs = bench::AverageMs(200, [&] {
     RenderStageView(stage, view, scroll % 40, scroll % 16, options);
     ++scroll;
   });

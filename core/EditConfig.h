@@ -11,9 +11,10 @@ namespace velmora {
 class EditConfig : public cSaveData {
  public:
   static constexpr int kPlaceCount = 11;
-  // Place 0 is the stage editor; the others are the palette windows of the
-  // three edit modes, paired by visibility (see SharePairedVisibility).
-  enum ePlace { PlaceStageEditor = 0 };
+  // Place 0 is the stage editor; 1 to 7 are the palette windows of the
+  // three edit modes, paired by visibility (see SharePairedVisibility); the
+  // last three are the world map window and its two palettes.
+  enum ePlace { PlaceStageEditor = 0, PlaceWorldMap = 8, PlaceWorldChips = 9, PlaceWorldEvents = 10 };
 
   std::string m_strLastStage;
   std::string m_strTemplateStage;

@@ -135,7 +135,9 @@ class cListEdit {
     if (m_lpWork && IsRealRow(m_nSel)) Element_(m_nSel) = *m_lpWork;
   }
 
-  bool Copy() {
+  // Copy, with Insert and Paste below, is where a list that shares its
+  // clipboard, or edits its records in dialogs, adds its rules.
+  virtual bool Copy() {
     if (!IsRealRow(m_nSel) && !(m_bMulti && AnyFlaggedRealRow())) return Beep();
     m_vecBuffer.clear();
     if (m_bMulti) {
@@ -154,7 +156,6 @@ class cListEdit {
     return true;
   }
 
-  // Insert and Paste are where a list with dialogs of its own adds its rules.
   virtual bool Paste() {
     if (m_nSel < 0 || m_nSel >= RowCount() || !m_lpData) return Beep();
     if (Full()) return Beep();

@@ -60,6 +60,18 @@ std::array<cSurface, kFixedBitmapCount> g_surfaces;
 
 cSurface& At(int index) { return g_surfaces[static_cast<size_t>(std::clamp(index, 0, kFixedBitmapCount - 1))]; }
 
+// A background that can't be read is passed over; only a lack of memory
+// stops.
+bool LoadBackground(int index) {
+  const cSurfaceSpec& request = g_loadRequests[static_cast<size_t>(index)];
+  At(index).Free();
+  if (!request.name.empty() && At(index).TryLoad(request) == eSurfaceLoad::OutOfMemory) {
+    StopOutOfMemory();
+    return false;
+  }
+  return true;
+}
+
 void ComposeSheets() {
   for (int sheet = kSheetBlock; sheet <= kSheetMark; ++sheet) At(sheet).Fill(0);
   const cSurface& blocks = At(kFixedBlock);
@@ -92,19 +104,21 @@ bool LoadFixedBitmaps(const std::string& stageBackPath, const std::string& world
   g_loadRequests[kFixedBack].name = stageBackPath;
   g_loadRequests[kFixedWorldBack].name = worldBackPath;
   for (int i = 0; i < kFixedBitmapCount; ++i) {
-    const cSurfaceSpec& request = g_loadRequests[static_cast<size_t>(i)];
-    if (!IsBackground(i)) {
-      if (!At(i).Load(request)) return false;
-      continue;
-    }
-    At(i).Free();
-    if (!request.name.empty() && At(i).TryLoad(request) == eSurfaceLoad::OutOfMemory) {
-      StopOutOfMemory();
-      return false;
-    }
+    if (!(IsBackground(i) ? LoadBackground(i) : At(i).Load(g_loadRequests[static_cast<size_t>(i)]))) return false;
   }
   ComposeSheets();
   return true;
+}
+
+void LoadWorldBackground(const std::string& path) {
+  if (path.empty()) return;
+  g_loadRequests[kFixedWorldBack].name = path;
+  LoadBackground(kFixedWorldBack);
+}
+
+bool LoadWorldSheets() {
+  return At(kFixedWorldChip).Load(g_loadRequests[kFixedWorldChip]) &&
+         At(kFixedWorldEvent).Load(g_loadRequests[kFixedWorldEvent]);
 }
 
 void FreeFixedBitmaps() {

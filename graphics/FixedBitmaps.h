@@ -45,6 +45,12 @@ cSurface& FixedBitmap(int index);
 // picture that fails reports and ends the load with false.
 bool LoadFixedBitmaps(const std::string& stageBackPath, const std::string& worldBackPath);
 void FreeFixedBitmaps();
+// The world map's pictures read anew: its background from `path`, which
+// the world map names (nothing happens for an empty name, and a picture
+// that can't be read is passed over), and the sheets of chips and events,
+// which report as at project open.
+void LoadWorldBackground(const std::string& path);
+bool LoadWorldSheets();
 
 // Every file the table names by default, each once, in table order.
 std::vector<std::string> FixedBitmapFiles();

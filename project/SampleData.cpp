@@ -132,7 +132,9 @@ struct cChipRow {
   int32_t graphic;
   int32_t blocked;
 };
-const cChipRow kChips[] = {{"草原", 5, 0}, {"道", 6, 0}, {"森", 7, 0}, {"山", 0, 1}, {"海", 1, 1}};
+// Graphics are cells of the sample's chip sheet: grass, road, forest,
+// mountain and water.
+const cChipRow kChips[] = {{"草原", 0, 0}, {"道", 3, 0}, {"森", 4, 0}, {"山", 5, 1}, {"海", 1, 1}};
 enum eSampleChip { ChipGrass, ChipRoad, ChipForest, ChipMountain, ChipSea };
 
 cEdWorldMap SampleWorldMap(const std::vector<std::string>& stages) {

@@ -28,4 +28,16 @@ void FillSystemIniDefaults(const cEdSystem& system, cSystemIniDefaults& defaults
   }
 }
 
+cSystemIni& ProjectSystemIni() {
+  static cSystemIni ini;
+  return ini;
+}
+
+void ReadProjectSystemIni() {
+  cSystemIniDefaults defaults;
+  FillSystemIniDefaults(SystemRecord(), defaults);
+  cSystemIni& ini = ProjectSystemIni();
+  if (!LoadSystemIni("System.ini", ini, defaults)) ResetSystemIni(ini, defaults);
+}
+
 }  // namespace velmora

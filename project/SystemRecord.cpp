@@ -146,7 +146,6 @@ void cEdSystem::VisitNested(cNestedVisitor& visitor) const {
   VisitVector(visitor, "m_vecOptions", m_vecOptions);
 }
 
-// A short or damaged file must not leave the pages with rows missing.
 void cEdSystem::FitPartSizes() {
   m_abStock.resize(kStockCount);
   m_abStockReset.resize(kStockCount);
@@ -164,6 +163,8 @@ void cEdSystem::FitPartSizes() {
   m_vecOptionMenu.resize(kOptionMenuCount);
   m_vecRankKinds.resize(kRankKindCount);
   m_vecOptions.resize(kOptionCount);
+  m_vecReplaySaveKinds.resize(kReplayKindCount);
+  m_vecReplayOrderKinds.resize(kReplayKindCount);
 }
 
 void cEdSystem::CheckBgmIndices() {

@@ -25,6 +25,7 @@ class cEdSystem : public cSaveData {
   static constexpr int kOptionMenuCount = 9;
   static constexpr int kRankKindCount = 4;
   static constexpr int kOptionCount = 11;
+  static constexpr int kReplayKindCount = 3;
 
   std::string m_strGameTitle;
   int32_t m_b1UpOnClear = 0;
@@ -151,6 +152,9 @@ class cEdSystem : public cSaveData {
 
   // Music rows the music list does not have become "none".
   void CheckBgmIndices();
+  // Gives every part its fixed number of rows, so a short or damaged file
+  // never leaves the pages with rows missing.
+  void FitPartSizes();
 
  protected:
   void Register(uint32_t version) override;
@@ -158,7 +162,6 @@ class cEdSystem : public cSaveData {
  private:
   void RegisterCompatFlags(uint32_t version, uint32_t fromGate, uint32_t toGate);
   void LoadParts(cDataFile& file, uint32_t version);
-  void FitPartSizes();
 };
 
 // The default of the options menu's help text, which the help dialog can

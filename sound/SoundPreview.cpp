@@ -17,10 +17,7 @@ const Entry* EntryWithFile(const cDbList<Entry>& list, eDbList which, int row) {
   return entry && !entry->m_strPath.empty() ? entry : nullptr;
 }
 
-bool StartSound(const cEdSound& entry) {
-  std::string path = entry.m_strPath;
-  return WavePlayer().PlayFile(nullptr, 0, path, 0) == 1;
-}
+bool StartSound(std::string path) { return WavePlayer().PlayFile(nullptr, 0, path, 0) == 1; }
 
 bool StartMusic(const cEdBgm& entry) {
   MusicPlayer().SetTrack(0, entry.m_strPath, entry.m_iVolume);
@@ -34,7 +31,7 @@ bool cSoundPreview::Play(eDbList list, int row) {
   if (list == eDbList::Sound) {
     const cEdSound* entry = EntryWithFile(Database().m_Sound, list, row);
     if (!entry) return false;
-    started = m_bSound = StartSound(*entry);
+    started = m_bSound = StartSound(entry->m_strPath);
   } else if (list == eDbList::Bgm) {
     const cEdBgm* entry = EntryWithFile(Database().m_Bgm, list, row);
     if (!entry) return false;
@@ -44,6 +41,13 @@ bool cSoundPreview::Play(eDbList list, int row) {
   }
   if (!started) ErrorBoxText(SysText("読み込み失敗！"));
   return started;
+}
+
+bool cSoundPreview::PlaySoundFile(const std::string& path) {
+  if (path.empty()) return false;
+  m_bSound = StartSound(path);
+  if (!m_bSound) ErrorBoxText(SysText("読み込み失敗！"));
+  return m_bSound;
 }
 
 void cSoundPreview::Stop() {

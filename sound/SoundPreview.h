@@ -1,4 +1,6 @@
 #pragma once
+#include <string>
+
 #include "objects/RefSizes.h"
 
 namespace velmora {
@@ -17,6 +19,9 @@ class cSoundPreview {
 
   // True when the row's file started.
   bool Play(eDbList list, int row);
+  // A sound effect named by its stored path rather than by a row: the
+  // same once through the wave preview; an empty path plays nothing.
+  bool PlaySoundFile(const std::string& path);
   // Ends what this preview started last; the owner's window closes.
   void Stop();
 

@@ -7,10 +7,10 @@
 #include "core/ProjectFolder.h"
 #include "core/ProjectPaths.h"
 #include "core/Prompt.h"
+#include "core/SafeWrite.h"
 #include "core/SystemText.h"
 #include "objects/Inherit.h"
 #include "objects/Palette.h"
-#include "platform/FileSync.h"
 #include "platform/FileSystem.h"
 #include "stage/Stage.h"
 #include "stage/StageEdit.h"
@@ -92,29 +92,13 @@ void ShowProgress(const char* caption, const char* text) { Prompt().ShowMessageW
 void ReportSaveFailure(const std::string& path) { ErrorBox(SysText("ステージファイル %s の保存に失敗しました！"), path.c_str()); }
 
 // A kill at any moment must leave the stage file whole or its backup in the
-// work folder, where the next load finds it: the new file is written and
-// forced to disk in the work folder, the old one becomes the backup, and the
-// new one then takes its place by a rename.
+// work folder, where the next load finds it.
 int WriteStageSafely(const std::string& path) {
   const std::string backup = BackupPathOf(path);
-  const std::string fresh = backup + kFreshSuffix;
-  if (!EditStage().SaveFile(fresh) || !SyncFile(fresh)) {
-    RemoveFile(fresh);
-    ReportSaveFailure(path);
-    return 0;
-  }
-  const bool backedUp = FileExists(path) && MoveFileReplacing(path, backup);
-  // Another drive can't take a rename; there the file is written in place,
-  // its trailer last, which the next load tests.
-  const bool placed = MoveFileReplacing(fresh, path) || (EditStage().SaveFile(path) && SyncFile(path));
-  RemoveFile(fresh);
-  if (!placed) {
-    if (backedUp) MoveFileReplacing(backup, path);
-    ReportSaveFailure(path);
-    return 0;
-  }
-  if (backedUp && !RemoveFile(backup)) DebugBox("%s", SysText("バックアップファイルの削除に失敗しました！"));
-  return 1;
+  auto write = [](const std::string& to) { return EditStage().SaveFile(to) != 0; };
+  if (WriteFileSafely(path, write, {backup + kFreshSuffix, backup})) return 1;
+  ReportSaveFailure(path);
+  return 0;
 }
 
 // Files too new or too old to carry the trailer count as whole: the load

@@ -1,17 +1,11 @@
 #pragma once
 #include <functional>
 
+#include "graphics/CellFrame.h"
 #include "stage/Stage.h"
 #include "graphics/Surface.h"
 
 namespace velmora {
-
-// A frame drawn over the view in cells, e.g. the stage window's cursor.
-struct cCellFrame {
-  int x = 0, y = 0;  // top left cell, in stage cells
-  int w = 0, h = 0;  // in cells; 0 draws no frame
-  cColourRef colour = 0;
-};
 
 // What the stage window asks of one repaint beside the stage itself.
 struct cViewOptions {

@@ -143,6 +143,15 @@ class cTwoPageSheet : public cSheet {
   }
 };
 
+// A page much smaller than the sample's.
+class cNotePage : public cDialog {
+ public:
+  explicit cNotePage(cDialogManager& manager) : cDialog(manager, nullptr) {
+    m_form.rows = {{nullptr, cStaticDesc{0, "メモ"}}};
+    m_form.okCancel = false;
+  }
+};
+
 TEST_F(DialogFramework, SheetScalesItsPagesByTheRateWithoutCuttingControls) {
   // Each side truncates, the way a float becomes an integer.
   EXPECT_EQ(cSheet::ScaledTemplate(QSize(100, 100), {0.999, 1.006}), QSize(99, 100));
@@ -152,16 +161,19 @@ TEST_F(DialogFramework, SheetScalesItsPagesByTheRateWithoutCuttingControls) {
   for (const cSheetRate rate : {cSheetRate{1.5, 0.5}, cSheetRate{1.0, 1.0}}) {
     manager.SetSheetRate(rate);
     cTwoPageSheet sheet(manager, record, second);
+    sheet.AddPage(std::make_unique<cNotePage>(manager), QString::fromUtf8("メモ"));
     WhenModal([&](QWidget*) {
+      QWidget* sample = sheet.Page(0)->Window();
+      const QSize natural = sample->sizeHint();
       for (int i = 0; i < sheet.PageCount(); ++i) {
         QWidget* page = sheet.Page(i)->Window();
         if (rate.x == 1.0) {
           EXPECT_EQ(page->minimumSize(), QSize(0, 0));  // no rate, no fixed size
           continue;
         }
-        const QSize natural = page->sizeHint();
-        EXPECT_EQ(page->size().width(), static_cast<int>(natural.width() * 1.5));
-        EXPECT_EQ(page->size().height(), std::max(natural.height() / 2, page->minimumSizeHint().height()));
+        // Every page takes the size of the largest, as a property sheet's do.
+        EXPECT_EQ(page->size().width(), static_cast<int>(natural.width() * 1.5)) << i;
+        EXPECT_EQ(page->size().height(), std::max(natural.height() / 2, sample->minimumSizeHint().height())) << i;
         EXPECT_GE(page->size().height(), page->minimumSizeHint().height());
       }
       sheet.Close(0);

@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -130,6 +131,42 @@ TEST_F(FormLayout, TheWheelOverAnUnfocusedComboIsLeftToTheRows) {
   combo->setFocus();
   wheel();
   EXPECT_EQ(combo->currentIndex(), 1) << "a combo with the focus takes the wheel";
+}
+
+// A check box whose text is longer than any window is wide.
+class cWrapCheckDialog : public cDialog {
+ public:
+  static constexpr int kIdWrap = 2501;
+  cWrapCheckDialog(cDialogManager& manager, int32_t& flag) : cDialog(manager, nullptr) {
+    m_form.rows = {{nullptr, cCheckDesc{kIdWrap, &flag, kText, true}}};
+  }
+  static constexpr const char* kText =
+      "とても長い説明のチェックボックスは、ダイアログの幅を広げずにその幅で折り返し、"
+      "文字をクリックしてもチェックボックスをクリックしたのと同じように切り替わる。"
+      "チェックボックスが使えないときは、その文字も灰色になる。";
+};
+
+TEST(FormLayoutWrap, ALongCheckTextWrapsAndAClickOnItIsAClickOnTheBox) {
+  cDialogManager manager;
+  int32_t flag = 0;
+  cWrapCheckDialog dialog(manager, flag);
+  ASSERT_TRUE(dialog.Create(0, true));
+  Activate(dialog.Window());
+  QLabel* caption = nullptr;
+  for (QLabel* label : dialog.Window()->findChildren<QLabel*>()) {
+    if (label->text() == QString::fromUtf8(cWrapCheckDialog::kText)) caption = label;
+  }
+  ASSERT_NE(caption, nullptr);
+  EXPECT_LT(dialog.Window()->width(), caption->fontMetrics().horizontalAdvance(caption->text()));
+  EXPECT_GT(caption->height(), 2 * caption->fontMetrics().height()) << "wrapped";
+
+  QTest::mouseClick(caption, Qt::LeftButton);
+  EXPECT_TRUE(qobject_cast<QAbstractButton*>(dialog.Item(cWrapCheckDialog::kIdWrap))->isChecked());
+  dialog.EnableControl(cWrapCheckDialog::kIdWrap, false);
+  EXPECT_FALSE(caption->isEnabled());
+  QTest::mouseClick(caption, Qt::LeftButton);
+  dialog.SendCommand(MakeCommand(kIdOk, kNoticeClicked), 0);
+  EXPECT_EQ(flag, 1) << "a click on a disabled text changes nothing";
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include <QComboBox>
+#include <QLineEdit>
 #include <gtest/gtest.h>
 
 #include "SampleDialog.h"
@@ -12,7 +13,7 @@
 namespace velmora::testing {
 namespace {
 
-enum { kIdBgm = 2501, kIdBgmPlay, kIdSound, kIdSoundPlay };
+enum { kIdBgm = 2501, kIdBgmPlay, kIdSound, kIdSoundPlay, kIdPath, kIdPathPlay };
 
 // The choices of 効果音の再生 and BGMの再生: the Sound list from row 1,
 // the Bgm list with its row 0, each with its "再生".
@@ -24,10 +25,13 @@ class cChoiceDialog : public cDialog {
         {nullptr, cSoundPreviewDesc{kIdBgmPlay, eDbList::Bgm, kIdBgm}, nullptr, nullptr, true},
         {"効果音", ComboOf(kIdSound, &sound, TextRows(Database().ChoiceLabels(eDbList::Sound), 1))},
         {nullptr, cSoundPreviewDesc{kIdSoundPlay, eDbList::Sound, kIdSound}, nullptr, nullptr, true},
+        {"ファイル", EditStrLine(kIdPath, &path, 259)},
+        {nullptr, cSoundPreviewDesc{kIdPathPlay, eDbList::Sound, 0, kIdPath}, nullptr, nullptr, true},
     };
   }
   int32_t bgm = 0;
   int32_t sound = 1;
+  std::string path;
 };
 
 class SoundPreviewButton : public ::testing::Test {
@@ -61,6 +65,21 @@ TEST_F(SoundPreviewButton, PlaysTheRowItsComboShowsAndStopsWhenTheDialogCloses) 
   dialog.SendCommand(MakeCommand(kIdCancel, kNoticeClicked), 0);
   EXPECT_FALSE(MusicPlayer().IsSounding(0));
   EXPECT_EQ(WavePlayer().PlayingRow(), -1);
+}
+
+// Beside a path edit the button plays the file the edit shows, typed or not.
+TEST_F(SoundPreviewButton, BesideAPathPlaysTheShownFileAndTellsAFileThatWontPlay) {
+  auto* edit = qobject_cast<QLineEdit*>(dialog.Item(kIdPath));
+  Press(kIdPathPlay);
+  EXPECT_EQ(WavePlayer().PlayingRow(), -1) << "an empty path plays nothing";
+  EXPECT_TRUE(prompt.Shown().empty());
+  edit->setText(QStringLiteral("wave\\gone.wav"));
+  Press(kIdPathPlay);
+  EXPECT_EQ(prompt.LastText(), "読み込み失敗！");
+  edit->setText(QStringLiteral("wave\\free.wav"));
+  Press(kIdPathPlay);
+  EXPECT_EQ(WavePlayer().PlayingRow(), 0);
+  EXPECT_TRUE(dialog.path.empty()) << "a preview commits nothing";
 }
 
 }  // namespace

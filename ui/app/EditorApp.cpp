@@ -16,7 +16,6 @@
 #include "core/ProjectPaths.h"
 #include "core/SaveData.h"
 #include "core/SheetSize.h"
-#include "core/SystemIni.h"
 #include "core/SystemText.h"
 #include "stage/TestPlay.h"
 #include "core/TimedBackup.h"
@@ -31,7 +30,6 @@
 #include "project/ExitSave.h"
 #include "project/ProjectLoad.h"
 #include "project/SystemIniDefaults.h"
-#include "project/SystemRecord.h"
 #include "sound/MusicPlayer.h"
 #include "sound/WavePlayer.h"
 #include "stage/StageEdit.h"
@@ -44,6 +42,7 @@
 #include "ui/framework/QtCatalogue.h"
 #include "ui/framework/QtPrompt.h"
 #include "ui/framework/QtText.h"
+#include "ui/framework/QtTextRenderer.h"
 
 namespace velmora {
 namespace {
@@ -81,11 +80,6 @@ void ResetEditTools(cStageEdit& edit) {
   edit.m_bDrag = 0;
 }
 
-cSystemIni& EditorIni() {
-  static cSystemIni ini;
-  return ini;
-}
-
 }  // namespace
 
 cEditorApp::cEditorApp(cPrompt* prompt) : m_pPrompt(prompt) {}
@@ -120,6 +114,7 @@ bool cEditorApp::Start() {
     SetScreenSize({screen->geometry().width(), screen->geometry().height()});
   }
   m_font = UiFontOf(QApplication::font());
+  InstallQtTextRenderer();
   WriteStartupReport(m_font);
   m_pManager = std::make_unique<cDialogManager>();
   if (!m_pPrompt) {
@@ -156,7 +151,7 @@ bool cEditorApp::InitApp() {
   }
   OpenLastStage(EditorConfig().m_strLastStage);
   InstallStageHooks();
-  ReadSystemIni();
+  ReadProjectSystemIni();
   if (!StartSound()) return false;
   if (!CreateHostWindow()) {
     StopOutOfMemory();
@@ -172,16 +167,8 @@ bool cEditorApp::InitApp() {
   return true;
 }
 
-void cEditorApp::ReadSystemIni() {
-  cSystemIniDefaults defaults;
-  FillSystemIniDefaults(SystemRecord(), defaults);
-  cSystemIni& ini = EditorIni();
-  ResetSystemIni(ini, defaults);
-  if (!LoadSystemIni("System.ini", ini, defaults)) ResetSystemIni(ini, defaults);
-}
-
 bool cEditorApp::StartSound() {
-  MusicPlayer().Init(1, g_aOggTracks, g_aMidiTracks, 1, EditorIni().nMidiDirectMusic);
+  MusicPlayer().Init(1, g_aOggTracks, g_aMidiTracks, 1, ProjectSystemIni().nMidiDirectMusic);
   MusicPlayer().SetTrack(0, "bgm\\Free.ogg", 100);
   return WavePlayer().Open("waveaudio", {"wave\\free.wav"}) != 0;
 }
@@ -298,6 +285,7 @@ int cEditorApp::IdleStep() {
   if (m_bRestoreFocus) {
     m_bRestoreFocus = false;
     if (m_nCurrentMode == 0 && m_pStageWindow->Window()) m_pStageWindow->Window()->activateWindow();
+    if (m_nCurrentMode == 1 && m_modeWindows.focus) m_modeWindows.focus();
   }
   ++m_nFrames;
   // A window may close during its own idle call; walk a copy.
@@ -323,9 +311,15 @@ void cEditorApp::StageWindowMinimised() { ApplyWindowSteps(m_windowSet.UserMinim
 
 void cEditorApp::StageWindowRestored() { ApplyWindowSteps(m_windowSet.RestoredFromTaskBar()); }
 
+void cEditorApp::SetCurrentMode(int mode, const cModeWindows& windows) {
+  m_nCurrentMode = mode;
+  m_modeWindows = windows;
+}
+
 void cEditorApp::ApplyWindowSteps(const cWindowSetSteps& steps) {
   cPaletteWindows* palettes = m_pStageWindow ? m_pStageWindow->Palettes() : nullptr;
-  if (steps.hideSet && palettes) palettes->ShowLayer(kNoLayer);
+  if (steps.hideSet && m_nCurrentMode == 1 && m_modeWindows.hidePalettes) m_modeWindows.hidePalettes();
+  else if (steps.hideSet && palettes) palettes->ShowLayer(kNoLayer);
   if (steps.minimiseHost && m_pHost) m_pHost->setWindowState(m_pHost->windowState() | Qt::WindowMinimized);
   if (steps.restore) RestoreWindows();
 }
@@ -336,7 +330,9 @@ void cEditorApp::ApplyWindowSteps(const cWindowSetSteps& steps) {
 void cEditorApp::RestoreWindows() {
   if (m_pHost) m_pHost->setWindowState(m_pHost->windowState() & ~Qt::WindowMinimized);
   m_bRestoreFocus = true;
-  if (m_pStageWindow && m_pStageWindow->Window()) {
+  if (m_nCurrentMode == 1 && m_modeWindows.restore) {
+    m_modeWindows.restore();
+  } else if (m_pStageWindow && m_pStageWindow->Window()) {
     m_pStageWindow->Window()->showNormal();
     if (m_pStageWindow->Palettes()) m_pStageWindow->Palettes()->ShowLayer(StageEdit().m_iLayer);
   }

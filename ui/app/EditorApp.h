@@ -53,6 +53,8 @@ class cEditorApp : public cStageWindowHost {
 
   void StageWindowMinimised() override;
   void StageWindowRestored() override;
+  void SetCurrentMode(int mode, const cModeWindows& windows) override;
+  int CurrentMode() const { return m_nCurrentMode; }
 
   // The host window's events.
   void SetActive(bool active);
@@ -74,7 +76,6 @@ class cEditorApp : public cStageWindowHost {
   void CollectEndedChildren();
   void RepaintPalettesSoon();
   void OpenLastEditedStage();
-  void ReadSystemIni();
   bool StartSound();
   bool CreateHostWindow();
   bool CreateStageWindow();
@@ -105,6 +106,7 @@ class cEditorApp : public cStageWindowHost {
   bool m_bRebuildPending = false;
   bool m_bPaletteRepaintPending = false;
   int m_nCurrentMode = 0;  // 0 the stage editor, 1 the world map editor
+  cModeWindows m_modeWindows;  // those of mode 1
   int m_nFrames = 0;
 };
 

@@ -27,4 +27,6 @@ void cCheck::Commit() {
 
 bool cCheck::IsChecked() const { return m_pBox->isChecked(); }
 
+void cCheck::SetChecked(bool checked) { m_pBox->setChecked(checked); }
+
 }  // namespace velmora

@@ -19,6 +19,9 @@ class cCheck : public cControl {
   void Refresh() override;
   void Commit() override;
   bool IsChecked() const;
+  // Shows a state without touching the field, as a click would; the field
+  // takes it at the next Commit.
+  void SetChecked(bool checked);
 
  private:
   QAbstractButton* m_pBox;

@@ -74,6 +74,9 @@ struct cCheckDesc {
   int id = 0;
   cValueField field;  // 0 or 1
   const char* text = "";  // UTF-8, beside the box
+  // A long text wraps at the width the form gives it rather than widening
+  // the dialog; a click on it still toggles the box.
+  bool wrap = false;
 };
 
 struct cComboDesc {
@@ -109,11 +112,13 @@ struct cCustomDesc {
 // The "再生" button beside a choice of the Sound or Bgm list: it plays the
 // row that the combo box `comboId` shows, chosen or committed, tells
 // "読み込み失敗！" when the file can't be played, and stops what it started
-// when the dialog closes.
+// when the dialog closes. Beside a path edit instead, `pathId`, it plays the
+// sound effect file whose stored path the edit shows.
 struct cSoundPreviewDesc {
   int id = 0;
   eDbList list = eDbList::Sound;
   int comboId = 0;
+  int pathId = 0;
 };
 
 using cControlDesc = std::variant<cButtonDesc, cEditValDesc, cEditStrDesc, cPictureDesc, cCheckDesc, cComboDesc,

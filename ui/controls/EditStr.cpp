@@ -103,6 +103,12 @@ bool cEditStr::IsBackspaceDown() const {
 
 std::string cEditStr::Text() const { return ToRecord(WidgetText()); }
 
+void cEditStr::SetText(const std::string& cp932) {
+  int caret = 0;
+  m_strPrevious = ReflowText(cp932, m_limits, caret);
+  SetWidgetText(FromRecord(m_strPrevious));
+}
+
 void cEditStr::Refresh() {
   m_strPrevious = m_field.IsBound() ? m_field.Get() : std::string();
   SetWidgetText(FromRecord(m_strPrevious));

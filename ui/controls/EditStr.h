@@ -27,6 +27,9 @@ class cEditStr : public cControl {
 
   // The text in record form: CP932 with "\r\n" between lines.
   std::string Text() const;
+  // Shows `cp932` as if the author had typed it, within the limits; the
+  // field takes it at the next Commit.
+  void SetText(const std::string& cp932);
   const cTextLimits& Limits() const { return m_limits; }
 
  private:

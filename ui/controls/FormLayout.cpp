@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QSlider>
 #include <QVBoxLayout>
@@ -38,6 +39,30 @@ class cWrappingLabel : public QLabel {
   QSize sizeHint() const override { return {minimumSizeHint().width(), QLabel::sizeHint().height()}; }
 };
 
+// The text of a check box that wraps: a click on it is a click on the box,
+// and it greys with the box.
+class cCheckCaption : public cWrappingLabel {
+ public:
+  cCheckCaption(const QString& text, QAbstractButton* box, QWidget* parent)
+      : cWrappingLabel(text, parent), m_pBox(box) {
+    box->installEventFilter(this);
+  }
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    if (event->button() == Qt::LeftButton && m_pBox->isEnabled() && rect().contains(event->position().toPoint())) {
+      m_pBox->click();
+    }
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == m_pBox && event->type() == QEvent::EnabledChange) setEnabled(m_pBox->isEnabled());
+    return false;
+  }
+
+ private:
+  QAbstractButton* m_pBox;
+};
+
 bool FitsLabelColumn(const QString& label, const QFontMetrics& metrics) {
   const int column = metrics.horizontalAdvance(QString(kLabelColumnChars, QChar(kFullWidthSample)));
   const QStringList lines = label.split(QLatin1Char('\n'));
@@ -46,14 +71,18 @@ bool FitsLabelColumn(const QString& label, const QFontMetrics& metrics) {
 }
 
 // Wide enough for the characters the field shows at once; a field for a
-// path shows a long path whole. The edit's own hint is 17 'x' wide, with
-// its frame and margins around them.
+// path shows a long path whole, and one that counts characters shows as
+// many full-width ones as it takes. The edit's own hint is 17 'x' wide,
+// with its frame and margins around them.
 void SizeLineEdit(QLineEdit& edit, const cEditStrDesc& desc) {
-  const int chars = ShownChars(TextLimitsOf(desc));
-  if (chars == 0) return;
+  const cTextLimits limits = TextLimitsOf(desc);
   const QFontMetrics metrics(edit.font());
   const int frame = edit.sizeHint().width() - metrics.horizontalAdvance(QLatin1Char('x')) * 17;
-  edit.setMinimumWidth(frame + metrics.averageCharWidth() * chars);
+  if (const int chars = ShownChars(limits); chars > 0) {
+    edit.setMinimumWidth(frame + metrics.averageCharWidth() * chars);
+  } else if (desc.countChars && desc.width > 0) {
+    edit.setMinimumWidth(frame + metrics.horizontalAdvance(QChar(kFullWidthSample)) * limits.width);
+  }
 }
 
 // Lines end in a stretch, so that narrow controls and their units stay
@@ -88,8 +117,23 @@ class cWidgetMaker {
     Add(d.id, edit, true);
   }
   void operator()(const cPictureDesc& d) { Add(d.id, new cPictureView(&m_parent, d.width, d.height), false); }
-  void operator()(const cCheckDesc& d) { Add(d.id, new QCheckBox(Ui(d.text), &m_parent), false); }
-  void operator()(const cComboDesc& d) { Add(d.id, new QComboBox(&m_parent), false); }
+  void operator()(const cCheckDesc& d) {
+    if (!d.wrap) {
+      Add(d.id, new QCheckBox(Ui(d.text), &m_parent), false);
+      return;
+    }
+    auto* box = new QCheckBox(&m_parent);
+    m_items.Set(d.id, box);
+    m_line.insertWidget(m_line.count() - 1, box, 0, Qt::AlignTop);
+    Append(m_line, new cCheckCaption(Ui(d.text), box, &m_parent), true);
+  }
+  // Made with its rows, so that the form is laid out for the longest even
+  // where it measures itself before the fields are bound.
+  void operator()(const cComboDesc& d) {
+    auto* box = new QComboBox(&m_parent);
+    for (const std::string& text : d.texts) box->addItem(FromCp932(text));
+    Add(d.id, box, false);
+  }
   void operator()(const cSliderDesc& d) { Add(d.id, new QSlider(Qt::Horizontal, &m_parent), true); }
   void operator()(const cStaticDesc& d) { Add(d.id, new QLabel(Ui(d.text), &m_parent), true); }
   void operator()(const cSoundPreviewDesc& d) { Add(d.id, new QPushButton(Ui("再生"), &m_parent), false); }
@@ -219,7 +263,8 @@ class cFormBuilder {
       }
       case cFormBlock::kScroll: {
         auto* rows = new QWidget;
-        BuildColumn(*rows, block.columns.front());
+        // A view taller than its rows keeps them at the top.
+        BuildColumn(*rows, block.columns.front())->addStretch(1);
         m_pGrid->addWidget(new cFormScrollArea(Container(), rows), r, 0, 1, 2);
         m_pGrid->setRowStretch(r, 1);
         break;

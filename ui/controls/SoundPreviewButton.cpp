@@ -1,6 +1,7 @@
 #include "ui/controls/SoundPreviewButton.h"
 
 #include "ui/controls/Combo.h"
+#include "ui/controls/EditStr.h"
 #include "ui/framework/Dialog.h"
 
 namespace velmora {
@@ -11,7 +12,9 @@ cSoundPreviewButton::cSoundPreviewButton(cDialog& parent, QAbstractButton* butto
 }
 
 void cSoundPreviewButton::PlayShownRow() {
-  if (const cCombo* combo = Parent().FindControlOf<cCombo>(m_desc.comboId)) {
+  if (const cEditStr* path = Parent().FindControlOf<cEditStr>(m_desc.pathId)) {
+    m_preview.PlaySoundFile(path->Text());
+  } else if (const cCombo* combo = Parent().FindControlOf<cCombo>(m_desc.comboId)) {
     m_preview.Play(m_desc.list, combo->SelectedValue());
   }
 }

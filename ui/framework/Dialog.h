@@ -1,5 +1,6 @@
 #pragma once
 #include <QPointer>
+#include <QSize>
 #include <QString>
 #include <cstdint>
 #include <memory>
@@ -141,6 +142,15 @@ class cDialog {
   void ShowPopup(const std::vector<cMenuItem>& menu);
   cScrollBar* HorzBar() const { return m_pHorzBar; }
   cScrollBar* VertBar() const { return m_pVertBar; }
+  // Sizes the window around a drawing area of `client`, which then follows
+  // the window down to `minimum`.
+  void SizeAroundClient(QSize client, QSize minimum);
+  // A window whose bars scroll over a grid of cells: the top left cell in
+  // view, and the bars' ranges and pages in cells.
+  int ScrollX() const;
+  int ScrollY() const;
+  void ScrollTo(int x, int y);
+  void SetScrollRanges(int horzMaximum, int horzPage, int vertMaximum, int vertPage);
   const cGeometry& Geometry() const { return m_geometry; }
 
   // Sheets set these on their pages.

@@ -68,6 +68,32 @@ void cDialog::HandleKeyDown(int key, bool ctrl) {
   for (size_t i = 0; i < m_vecControl.size(); ++i) m_vecControl[i]->OnKey(key, ctrl);
 }
 
+void cDialog::SizeAroundClient(QSize client, QSize minimum) {
+  if (!m_pWindow) return;
+  QWidget* area = m_pWindow->Client();
+  area->setFixedSize(client);
+  m_pWindow->adjustSize();
+  area->setMinimumSize(minimum);
+  area->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
+int cDialog::ScrollX() const { return m_pHorzBar ? m_pHorzBar->Position() : 0; }
+
+int cDialog::ScrollY() const { return m_pVertBar ? m_pVertBar->Position() : 0; }
+
+void cDialog::ScrollTo(int x, int y) {
+  if (m_pHorzBar) m_pHorzBar->SetPosition(x);
+  if (m_pVertBar) m_pVertBar->SetPosition(y);
+}
+
+void cDialog::SetScrollRanges(int horzMaximum, int horzPage, int vertMaximum, int vertPage) {
+  if (!m_pHorzBar || !m_pVertBar) return;
+  m_pHorzBar->SetRange(0, horzMaximum);
+  m_pHorzBar->SetPage(horzPage);
+  m_pVertBar->SetRange(0, vertMaximum);
+  m_pVertBar->SetPage(vertPage);
+}
+
 void cDialog::ScrollBy(bool vertical, int action) {
   cScrollBar* bar = vertical ? m_pVertBar : m_pHorzBar;
   if (bar) bar->Bar()->triggerAction(static_cast<QAbstractSlider::SliderAction>(action));

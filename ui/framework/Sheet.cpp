@@ -51,9 +51,9 @@ void cSheet::Build() {
   for (size_t i = 0; i < m_pages.size(); ++i) {
     cDialog& page = *m_pages[i];
     page.CreatePage(m_pTabs, !m_bModal);
-    ScalePage(*page.Window());
     m_pTabs->addTab(page.Window(), m_tabTitles[i]);
   }
+  ScalePages();
   // A sheet of one page is a plain dialog: no tab stands over it.
   m_pTabs->setTabBarAutoHide(true);
   m_pTabs->setCurrentIndex(m_nStartPage);
@@ -90,11 +90,17 @@ QSize cSheet::ScaledTemplate(const QSize& templateSize, const cSheetRate& rate) 
 }
 
 // The layout's minimum stays the floor: a rate below 1.0 never cuts off a
-// control.
-void cSheet::ScalePage(QWidget& page) const {
+// control. Like a property sheet, every page then takes the size of the
+// largest, so a small page fills the sheet rather than keeping its corner.
+void cSheet::ScalePages() const {
   const cSheetRate& rate = m_manager.SheetRate();
   if (rate.x == 1.0 && rate.y == 1.0) return;
-  page.setFixedSize(ScaledTemplate(page.sizeHint(), rate).expandedTo(page.minimumSizeHint()));
+  QSize largest;
+  for (const auto& page : m_pages) {
+    const QWidget& window = *page->Window();
+    largest = largest.expandedTo(ScaledTemplate(window.sizeHint(), rate).expandedTo(window.minimumSizeHint()));
+  }
+  for (const auto& page : m_pages) page->Window()->setFixedSize(largest);
 }
 
 int cSheet::Start() {
@@ -112,13 +118,15 @@ int cSheet::Start() {
   return 1;
 }
 
-bool cSheet::ApplyPages() {
+bool cSheet::ApplyEveryPage() {
   for (const auto& page : m_pages) {
     page->ApplyAll();
     if (!page->OnApplyPage()) return false;
   }
-  return OnApply();
+  return true;
 }
+
+bool cSheet::ApplyPages() { return ApplyEveryPage() && OnApply(); }
 
 void cSheet::Close(int result) {
   m_nResult = result;

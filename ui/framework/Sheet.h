@@ -62,10 +62,13 @@ class cSheet {
  protected:
   // After all pages applied: saving what the pages changed.
   virtual bool OnApply() { return true; }
+  // Every page stores its fields and runs its own apply, in page order;
+  // false at the first page that refuses.
+  bool ApplyEveryPage();
 
  private:
   void Build();
-  void ScalePage(QWidget& page) const;
+  void ScalePages() const;
 
   cDialogManager& m_manager;
   QPointer<QWidget> m_pOwner;

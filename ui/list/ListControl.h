@@ -50,9 +50,19 @@ class cListControl : public cList {
   void OnKey(int key, bool ctrl) override {
     for (const cListKey& entry : kListKeys) {
       if (entry.key != key || entry.ctrl != ctrl) continue;
-      const int id = AccelId(entry.first) ? AccelId(entry.first) : AccelId(entry.second);
-      if (id) Parent().SendCommand(MakeCommand(id, kNoticeAccelerator), 0);
+      if (const int id = KeyId(entry)) Parent().SendCommand(MakeCommand(id, kNoticeAccelerator), 0);
     }
+  }
+
+  // The same keys as a table for a window without a modal loop, where keys
+  // held with Ctrl reach only the accelerators: bind it to the list's id.
+  cAccelTable Accelerators() const {
+    cAccelTable table;
+    for (const cListKey& entry : kListKeys) {
+      const Qt::KeyboardModifiers modifiers = entry.ctrl ? Qt::ControlModifier : Qt::NoModifier;
+      if (const int id = KeyId(entry)) table.push_back({entry.key, modifiers, id});
+    }
+    return table;
   }
 
   // The page's command handler hands every id here; the command runs when
@@ -78,6 +88,7 @@ class cListControl : public cList {
 
  private:
   int AccelId(eListCommand command) const { return m_accelIds[static_cast<int>(command)]; }
+  int KeyId(const cListKey& entry) const { return AccelId(entry.first) ? AccelId(entry.first) : AccelId(entry.second); }
 
   cListView<Element> m_view;
   ListCommandIds m_accelIds;

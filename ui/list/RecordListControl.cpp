@@ -7,17 +7,19 @@ namespace {
 constexpr int kShownRows = 8;
 constexpr int kShownChars = 48;
 
-QWidget* MakeRecordListWidget(QWidget* parent) {
+QWidget* MakeRecordListWidget(QWidget* parent, int chars) {
   auto* list = new QListWidget(parent);
   const QFontMetrics metrics(list->font());
-  list->setMinimumSize(metrics.averageCharWidth() * kShownChars, metrics.height() * kShownRows);
+  list->setMinimumSize(metrics.averageCharWidth() * (chars > 0 ? chars : kShownChars), metrics.height() * kShownRows);
   return list;
 }
 
 }  // namespace
 
 cFormRow RecordListRows(const cRecordListIds& ids) {
-  std::vector<cFormRow> rows = {{nullptr, cCustomDesc{ids.list, MakeRecordListWidget}}};
+  const int chars = ids.shownChars;
+  auto make = [chars](QWidget* parent) { return MakeRecordListWidget(parent, chars); };
+  std::vector<cFormRow> rows = {{nullptr, cCustomDesc{ids.list, make}}};
   const cButtonDesc buttons[] = {{ids.insert, "挿入"}, {ids.edit, "編集"}, {ids.remove, "削除"}};
   for (const cButtonDesc& button : buttons) {
     // The buttons stand in one line under the list.

@@ -18,6 +18,7 @@ struct cRecordListIds {
   int edit = 0;    // "編集"; 0 for a list without it
   int remove = 0;  // "削除"
   int listNumber = 1;
+  int shownChars = 0;  // the list's width in characters; 0 has room for a condition's or command's text
 };
 
 // The rows that show a record list in a dialog's table: the list with its

@@ -1,5 +1,8 @@
 #include "ui/palette/SurfaceImage.h"
 
+#include <QPainter>
+#include <algorithm>
+
 #include "graphics/Surface.h"
 
 namespace velmora {
@@ -20,6 +23,17 @@ QImage ToImage(const cSurface& surface) {
     }
   }
   return image;
+}
+
+void DrawView(QPainter& painter, const cSurface& view) {
+  const cPixelImage& image = view.Image();
+  painter.drawImage(0, 0, QImage(image.Row(0), image.Width(), image.Height(), image.Stride(), QImage::Format_RGB32));
+}
+
+void FitView(cSurface& view, int width, int height) {
+  width = std::max(width, 1);
+  height = std::max(height, 1);
+  if (view.Width() != width || view.Height() != height) view.CreateSurface(width, height, 32, false);
 }
 
 }  // namespace velmora

@@ -2,12 +2,10 @@
 
 #include "core/EditConfig.h"
 #include "core/ProjectPaths.h"
-#include "core/Prompt.h"
-#include "core/SystemText.h"
 #include "stage/StageEdit.h"
 #include "ui/controls/Combo.h"
+#include "ui/controls/PathBrowse.h"
 #include "ui/framework/Commands.h"
-#include "ui/framework/QtPrompt.h"
 
 namespace velmora {
 namespace {
@@ -45,27 +43,12 @@ void cNewStageDialog::UpdateEnables() {
 void cNewStageDialog::OnDialogCommand(int id, int notice) {
   if (notice != kNoticeClicked) return;
   if (id == kIdTemplateBrowse) {
-    Browse(kIdTemplate, "ステージの選択", "data\\stg4\\", "StageFile ( *.stg4_* )", "*.stg4_*");
+    BrowseIntoEdit(*this, kIdTemplate,
+                   FilePromptOf("ステージの選択", "data\\stg4\\", "StageFile ( *.stg4_* )", "*.stg4_*"));
   } else if (id == kIdPaletteBrowse) {
-    Browse(kIdPaletteFile, "ステージパレットの選択", "data\\plt4\\", "PaletteFile ( *.plt4 )", "*.plt4");
+    BrowseIntoEdit(*this, kIdPaletteFile,
+                   FilePromptOf("ステージパレットの選択", "data\\plt4\\", "PaletteFile ( *.plt4 )", "*.plt4"));
   }
-}
-
-void cNewStageDialog::Browse(int editId, const char* title, const char* folder, const char* filterText,
-                             const char* pattern) {
-  cFilePrompt request;
-  request.title = SysText(title);
-  request.folder = folder;
-  request.filter = std::string(filterText) + '\0' + pattern + '\0';
-  std::string chosen;
-  if (!Prompt().OpenFile(OwnerOf(Window()), request, chosen)) return;
-  // A file outside the project can't be named by a relative path.
-  if (chosen.empty() || chosen[0] == '\\' || chosen.find(':') != std::string::npos) return;
-  cControl* edit = FindControl(editId);
-  if (!edit) return;
-  ApplyAll();
-  (editId == kIdTemplate ? EditorConfig().m_strTemplateStage : EditorConfig().m_strStagePaletteFile) = chosen;
-  edit->Refresh();
 }
 
 bool cNewStageDialog::OnApply() {

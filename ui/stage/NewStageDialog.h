@@ -13,9 +13,6 @@ class cNewStageDialog : public cDialog {
   bool OnApply() override;
   void OnDialogCommand(int id, int notice) override;
   void UpdateEnables() override;
-
- private:
-  void Browse(int editId, const char* title, const char* folder, const char* filterText, const char* pattern);
 };
 
 }  // namespace velmora

@@ -1,6 +1,7 @@
 #include "ui/stage/StageViewRules.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 
 #include "core/SystemText.h"
@@ -75,6 +76,12 @@ cCellFrame CursorFrame(const cStageEdit& edit, cCellPos cursor) {
     default: break;
   }
   return {cursor.x, cursor.y, 1, 1, kCursorColour};
+}
+
+std::string CursorStatusText(cCellPos cursor) {
+  char text[64];
+  std::snprintf(text, sizeof text, SysText("座標 (%d,%d)"), cursor.x, cursor.y);
+  return text;
 }
 
 std::string StageWindowTitle(const std::string& path) {

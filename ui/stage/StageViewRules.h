@@ -53,6 +53,9 @@ cBarRange VertBarRange(int stageHeight, int clientHeight);
 // pen, the rectangle or the range while one is dragged, else one cell.
 cCellFrame CursorFrame(const cStageEdit& edit, cCellPos cursor);
 
+// The status bar's words for the cursor cell; CP932.
+std::string CursorStatusText(cCellPos cursor);
+
 // The program's name as its windows show it; UTF-8.
 inline constexpr const char* kProgramTitle = "ヴェルモラ";
 

@@ -1,9 +1,5 @@
 #include "ui/stage/StageWindow.h"
 
-#include <QApplication>
-#include <QImage>
-#include <QPainter>
-#include <QPixmap>
 #include <QStyle>
 #include <QToolBar>
 #include <algorithm>
@@ -12,7 +8,6 @@
 #include "core/ProjectPaths.h"
 #include "core/SaveData.h"
 #include "core/SystemText.h"
-#include "platform/HostPath.h"
 #include "stage/TestPlay.h"
 #include "stage/StageBrush.h"
 #include "stage/StageCommands.h"
@@ -22,8 +17,11 @@
 #include "ui/framework/Commands.h"
 #include "ui/framework/DialogWindow.h"
 #include "ui/framework/QtText.h"
+#include "ui/framework/ToolStrip.h"
 #include "ui/framework/WindowFrame.h"
 #include "ui/stage/NewStageDialog.h"
+#include "ui/system/SystemSheet.h"
+#include "ui/worldmap/WorldMapEntry.h"
 
 namespace velmora {
 namespace {
@@ -41,8 +39,7 @@ constexpr int kStatusTestPlayPart = 1;
 constexpr int kStatusTestPlayWidth = 0;
 constexpr int kToolImage = 16;
 
-const char* const kToolStrips[] = {"e_bmp\\ToolBar_Palette.bmp", "e_bmp\\ToolBar_TestPlay.bmp"};
-constexpr int kToolStripImages[] = {3, 2};
+constexpr cToolStripFile kToolStrips[] = {{"e_bmp\\ToolBar_Palette.bmp", 3}, {"e_bmp\\ToolBar_TestPlay.bmp", 2}};
 
 // The platform's own pictures for new, open, save, undo and redo.
 constexpr QStyle::StandardPixmap kStandardImages[kStandardToolImages] = {
@@ -99,6 +96,8 @@ void cStageWindow::OpenPalettes() {
       UpdateStates();
     });
   }
+  InstallSystemWindow(*this);
+  InstallWorldMapEntry(*this);
 }
 
 bool cStageWindow::IsChecked(const cStageCommand& command) const {
@@ -125,21 +124,7 @@ void cStageWindow::OnInitDialog() {
 }
 
 void cStageWindow::BuildToolBar() {
-  QPixmap strip(kToolImage * (kStandardToolImages + 5), kToolImage);
-  strip.fill(Qt::transparent);
-  QPainter painter(&strip);
-  QStyle* style = QApplication::style();
-  for (int i = 0; i < kStandardToolImages; ++i) {
-    painter.drawPixmap(i * kToolImage, 0, style->standardIcon(kStandardImages[i]).pixmap(kToolImage, kToolImage));
-  }
-  int at = kStandardToolImages * kToolImage;
-  for (size_t s = 0; s < std::size(kToolStrips); ++s) {
-    const QImage images(QString::fromStdString(HostPath(kToolStrips[s])));
-    if (!images.isNull()) painter.drawImage(at, 0, images, 0, 0, kToolStripImages[s] * kToolImage, kToolImage);
-    at += kToolStripImages[s] * kToolImage;
-  }
-  painter.end();
-  SetToolImages(strip, kToolImage);
+  SetToolImages(ToolStrip(kStandardImages, kToolStrips, kToolImage), kToolImage);
   const std::vector<cToolButton>& buttons = StageToolButtons();
   AddToolButtons(buttons.data(), static_cast<int>(buttons.size()));
 }
@@ -147,16 +132,10 @@ void cStageWindow::BuildToolBar() {
 // ---- geometry ----
 
 void cStageWindow::PlaceWindow() {
-  auto* window = static_cast<cDialogWindow*>(Window());
-  QWidget* client = window->Client();
   // The first window is sized around its client: menu, tool and status
-  // bars and the scroll bars come on top of the drawing area, which then
-  // follows the window.
-  client->setFixedSize(kDefaultClientWidth, kDefaultClientHeight);
-  window->adjustSize();
-  client->setMinimumSize(kMinClientWidth, kMinClientHeight);
-  client->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-  window->move(kDefaultX, kDefaultY);
+  // bars and the scroll bars come on top of the drawing area.
+  SizeAroundClient({kDefaultClientWidth, kDefaultClientHeight}, {kMinClientWidth, kMinClientHeight});
+  Window()->move(kDefaultX, kDefaultY);
   RestorePlace();
 }
 
@@ -177,15 +156,6 @@ cViewFrame cStageWindow::Frame() const {
   return {geometry.clientWidth, geometry.clientHeight, ScrollX(), ScrollY(), stage.m_nWidth, stage.m_nHeight};
 }
 
-int cStageWindow::ScrollX() const { return HorzBar() ? HorzBar()->Position() : 0; }
-
-int cStageWindow::ScrollY() const { return VertBar() ? VertBar()->Position() : 0; }
-
-void cStageWindow::ScrollTo(int x, int y) {
-  if (HorzBar()) HorzBar()->SetPosition(x);
-  if (VertBar()) VertBar()->SetPosition(y);
-}
-
 // The view of a stage just opened, for the size the window came up with.
 void cStageWindow::ScrollToStart() {
   UpdateScrollRanges();
@@ -200,10 +170,7 @@ void cStageWindow::UpdateScrollRanges() {
   const QWidget* client = static_cast<cDialogWindow*>(Window())->Client();
   const cBarRange horz = HorzBarRange(EditStage().m_nWidth, client->width());
   const cBarRange vert = VertBarRange(EditStage().m_nHeight, client->height());
-  HorzBar()->SetRange(0, horz.maximum);
-  HorzBar()->SetPage(horz.page);
-  VertBar()->SetRange(0, vert.maximum);
-  VertBar()->SetPage(vert.page);
+  SetScrollRanges(horz.maximum, horz.page, vert.maximum, vert.page);
 }
 
 // ---- commands ----

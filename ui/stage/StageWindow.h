@@ -14,10 +14,21 @@
 
 namespace velmora {
 
+// The windows of the world map editor as the application handles them
+// while that editor is the current mode.
+struct cModeWindows {
+  std::function<void()> hidePalettes;  // the set went to the task bar
+  std::function<void()> restore;       // it came back: the window as it was, its palette beside it
+  std::function<void()> focus;
+};
+
 // What the stage window asks of the application around it.
 class cStageWindowHost {
  public:
   virtual ~cStageWindowHost() = default;
+  // The editor whose windows are on show: 0 the stage editor, 1 the world
+  // map editor with `windows`.
+  virtual void SetCurrentMode(int /*mode*/, const cModeWindows& /*windows*/) {}
   // Message 1024 with 1: a different stage came in; throw the window away
   // and build it anew.
   virtual void RequestRebuild() = 0;
@@ -45,6 +56,7 @@ class cStageWindow : public cDialog {
   // enabled by the state rules, one without stays disabled.
   void SetHandler(eMenuAction action, cHandler handler);
   bool HasHandler(eMenuAction action) const { return m_handlers.count(action) != 0; }
+  cStageWindowHost& Host() const { return m_host; }
   // The palette windows, null before the window opened.
   cPaletteWindows* Palettes() const { return m_pPalettes.get(); }
   // Runs after each change of the current layer, for the palette windows.
@@ -57,9 +69,6 @@ class cStageWindow : public cDialog {
   // The status bar says whether a test play runs.
   void ShowTestPlayStatus();
   void Repaint();
-  int ScrollX() const;
-  int ScrollY() const;
-  void ScrollTo(int x, int y);
   const cCellPos& Cursor() const { return m_cursor; }
   // The last painted view, for tests and measurements.
   const cSurface& View() const { return m_view; }

@@ -1,11 +1,9 @@
 #include <QGuiApplication>
-#include <QImage>
 #include <QPainter>
-#include <cstdio>
 
-#include "core/SystemText.h"
 #include "stage/StageEdit.h"
 #include "ui/framework/DialogWindow.h"
+#include "ui/palette/SurfaceImage.h"
 #include "ui/stage/BrushPreview.h"
 #include "ui/stage/StageWindow.h"
 #include "graphics/stageview/StageView.h"
@@ -16,10 +14,7 @@
 namespace velmora {
 
 void cStageWindow::RenderView() {
-  const cGeometry& geometry = Geometry();
-  const int width = std::max(geometry.clientWidth, 1);
-  const int height = std::max(geometry.clientHeight, 1);
-  if (m_view.Width() != width || m_view.Height() != height) m_view.CreateSurface(width, height, 32, false);
+  FitView(m_view, Geometry().clientWidth, Geometry().clientHeight);
   cViewOptions options;
   options.hasStage = StageEdit().m_bHasStage != 0;
   options.cursor = CursorFrame(StageEdit(), m_cursor);
@@ -32,12 +27,8 @@ void cStageWindow::RenderView() {
 
 void cStageWindow::OnPaint(QPainter& painter) {
   RenderView();
-  const cPixelImage& image = m_view.Image();
-  const QImage frame(image.Row(0), image.Width(), image.Height(), image.Stride(), QImage::Format_RGB32);
-  painter.drawImage(0, 0, frame);
-  char status[64];
-  std::snprintf(status, sizeof status, SysText("座標 (%d,%d)"), m_cursor.x, m_cursor.y);
-  SetStatusText(0, status);
+  DrawView(painter, m_view);
+  SetStatusText(0, CursorStatusText(m_cursor));
 }
 
 void cStageWindow::Repaint() {

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace velmora {
+
+class cStageWindow;
+
+// The stage window's "ワールドマップ(&W)": the world map window opens over
+// the stage window, which hides with its palettes until the world map
+// closes, and the application's current mode follows. One window at a time;
+// the stage window owns it.
+void InstallWorldMapEntry(cStageWindow& stage);
+
+}  // namespace velmora

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "NamedEntries.h"
 #include "core/PrjOption.h"
 #include "objects/Inherit.h"
 #include "objects/Palette.h"
@@ -14,18 +15,11 @@
 namespace velmora {
 namespace {
 
+using testing::Named;
+
 constexpr cPaletteSide kCommonBlocks{0, kKindBlock};
 constexpr cPaletteSide kStageBlocks{1, kKindBlock};
 
-template <class T>
-std::vector<T> Named(const char* prefix, int count) {
-  std::vector<T> list(static_cast<size_t>(count));
-  for (int i = 1; i < count; ++i) {
-    list[static_cast<size_t>(i)].m_strName = prefix + std::to_string(i);
-    list[static_cast<size_t>(i)].m_nGraphicNo = static_cast<int16_t>(i);
-  }
-  return list;
-}
 
 template <class T>
 std::vector<std::string> Names(const std::vector<T>& list) {

@@ -45,7 +45,9 @@ class cCmdDialogFixture : public cCondDialogFixture {
   }
   void TearDown() override {
     InstallPaletteLists(ePalette::Common, {});
-    InstallPaletteLists(ePalette::Stage, {});
+    // The edit stage's palette stands installed for the life of the
+    // process; later tests inherit from it.
+    InstallPaletteLists(ePalette::Stage, EditStage().Palette());
     InstallRefSizes(nullptr);
     InstallRefNames(nullptr);
     for (int list = 0; list < kDbListCount; ++list) Database().List(static_cast<eDbList>(list)).Resize(0);

@@ -69,6 +69,9 @@ class cEditorApp : public cStageWindowHost {
  private:
   bool AskDoubleStart();
   void InstallStageHooks();
+  // The parameter editor of a placed object, for the stage hooks.
+  template <class Entry>
+  void EditCell(Entry& cell);
   void ListenForGames();
   void CollectEndedChildren();
   void RepaintPalettesSoon();

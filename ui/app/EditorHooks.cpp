@@ -6,6 +6,7 @@
 #include "stage/StageHooks.h"
 #include "ui/app/EditorApp.h"
 #include "ui/app/HostWindow.h"
+#include "ui/entries/OpenEntryEditor.h"
 
 // What the stage logic and the test play ask of the windows, answered by
 // the application and its stage window.
@@ -51,6 +52,14 @@ class cEditorTestPlayHost : public cTestPlayHost {
 
 }  // namespace
 
+template <class Entry>
+void cEditorApp::EditCell(Entry& cell) {
+  if (!m_pStageWindow) return;
+  const cEditPlace place{kEditCell, kEntryKindOf<Entry>, -1};
+  EditEntryAt<Entry>(*m_pManager, m_pStageWindow->Window(), place, &cell, {});
+  m_pStageWindow->Repaint();
+}
+
 void cEditorApp::InstallStageHooks() {
   cStageHooks& hooks = StageHooks();
   hooks.refreshUndoButtons = [this] {
@@ -63,6 +72,11 @@ void cEditorApp::InstallStageHooks() {
   hooks.layerShown = [this](int layer) {
     if (m_pStageWindow) m_pStageWindow->LayerShown(layer);
   };
+  // A placed object's editor is modal: the layer the search switched to
+  // comes back when it closes.
+  hooks.editBlock = [this](cEdBlock& cell) { EditCell(cell); };
+  hooks.editChara = [this](cEdChara& cell) { EditCell(cell); };
+  hooks.editItem = [this](cEdItem& cell) { EditCell(cell); };
   hooks.saveEditorSettings = [] { EditorConfig().SaveFile(PathOf(ePath::EditConfig)); };
   hooks.destroyMainWindow = [this] { CloseEditor(); };
   m_pTestPlayHost = std::make_unique<cEditorTestPlayHost>(*this);

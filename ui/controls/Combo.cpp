@@ -54,8 +54,10 @@ bool cCombo::SetRows(const cComboRows& rows) {
   return ShowField();
 }
 
+// A list that shows no row (its rows don't hold the field's value, or it
+// has none) has no value to give: the field keeps what it holds.
 void cCombo::Commit() {
-  if (Updating() || !m_field.IsBound()) return;
+  if (Updating() || !m_field.IsBound() || m_pBox->currentIndex() < 0) return;
   m_field.Set(m_map.PosToData(m_pBox->currentIndex()));
 }
 

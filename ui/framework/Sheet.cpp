@@ -54,6 +54,9 @@ void cSheet::Build() {
     m_pTabs->addTab(page.Window(), m_tabTitles[i]);
   }
   ScalePages();
+  // A sheet of one page is a plain dialog: no tab stands over it.
+  m_pTabs->setTabBarAutoHide(true);
+  m_pTabs->setCurrentIndex(m_nStartPage);
   // Like a property sheet, the frame wraps its pages and keeps that size.
   column->setSizeConstraint(QLayout::SetFixedSize);
   auto* buttons = new QDialogButtonBox(m_pWindow);

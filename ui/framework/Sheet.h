@@ -29,6 +29,8 @@ class cSheet {
   cSheet& operator=(const cSheet&) = delete;
 
   void AddPage(std::unique_ptr<cDialog> page, const QString& tabTitle);
+  // The page in front when the sheet opens; before Start.
+  void SetStartPage(int index) { m_nStartPage = index; }
   // Modal: runs to the end and gives 1 for OK, 0 for Cancel. Modeless:
   // shows the sheet and gives 1; the manager deletes a modeless sheet
   // once the author closed it.
@@ -75,6 +77,7 @@ class cSheet {
   bool m_bStarted = false;
   bool m_bChanged = false;
   int m_nResult = 0;
+  int m_nStartPage = 0;
   // Held as a QWidget: the manager may ask about the window while it is
   // being destroyed, when it is no longer a QDialog.
   QPointer<QWidget> m_pWindow;

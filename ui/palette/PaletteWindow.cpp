@@ -18,6 +18,7 @@
 #include "stage/StageBrush.h"
 #include "stage/StageEdit.h"
 #include "ui/controls/ScrollBar.h"
+#include "ui/entries/OpenEntryEditor.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/DialogWindow.h"
 #include "ui/framework/Hook.h"
@@ -69,6 +70,7 @@ cObjectLook Look(const cEdItem& item) { return LookOf(item); }
 const cPaletteWindow::cCommand cPaletteWindow::kCommands[] = {
     {kCmdChangeCount, &cPaletteWindow::ChangeCount, false},
     {kCmdMoveEntries, &cPaletteWindow::MoveEntriesDialog, false},
+    {kCmdEdit, &cPaletteWindow::Edit, false},
     {kCmdCut, &cPaletteWindow::Cut, false},
     {kCmdCopy, &cPaletteWindow::Copy, false},
     {kCmdPaste, &cPaletteWindow::Paste, true},
@@ -292,9 +294,12 @@ void cPaletteWindow::OnLButtonDown() {
 
 void cPaletteWindow::OnRButtonDown() {
   cStageEdit& edit = StageEdit();
-  // The entry editor opens from here once it exists; until then the right
-  // button only marks the stage as touched, as opening it would.
-  if (edit.m_iRightMode == 0 || m_bStagePlt) edit.m_bStageChanged = 1;
+  if (edit.m_iRightMode == 0) {
+    edit.m_bStageChanged = 1;
+    OpenEditor(IndexAt(Mouse().x, Mouse().y));
+    return;
+  }
+  if (m_bStagePlt) edit.m_bStageChanged = 1;
   else edit.m_bCommonChanged = 1;
 }
 
@@ -398,6 +403,22 @@ void cPaletteWindow::MoveEntriesDialog() {
   cMoveDialog dialog(Manager(), Window(), request, PaletteCount(Side()), Window()->pos());
   if (dialog.DoModal(0) != 1) return;
   m_bListChanged = MoveEntries(Side(), request);
+}
+
+void cPaletteWindow::Edit() { OpenEditor(StageEdit().m_iPltIndex); }
+
+// The editor stays open beside this window; when it closes, this window
+// comes to the front and the brush takes the entry as it now is.
+void cPaletteWindow::OpenEditor(int index) {
+  const cPaletteSide side = Side();
+  if (index < 1 || index >= PaletteCount(side)) return;
+  SelectEntry(side, index);
+  Changed();
+  EditPaletteEntry(Manager(), Window(), side, index, [this, side](int) {
+    TakeBrush(side);
+    if (Window()) Window()->activateWindow();
+    Changed();
+  });
 }
 
 void cPaletteWindow::Cut() { CopyEntry(Side(), StageEdit().m_iPltIndex, true); Changed(); }

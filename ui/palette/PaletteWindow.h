@@ -96,6 +96,8 @@ class cPaletteWindow : public cDialog {
 
   void ChangeCount();
   void MoveEntriesDialog();
+  void Edit();
+  void OpenEditor(int index);
   void Cut();
   void Copy();
   void Paste();

@@ -7,6 +7,8 @@
 #include "core/ProjectPaths.h"
 #include "stage/StageCommands.h"
 #include "stage/StageEdit.h"
+#include "ui/entries/EntryEditor.h"
+#include "ui/entries/OpenEntryEditor.h"
 #include "ui/framework/WindowFrame.h"
 #include "ui/framework/WindowStyle.h"
 
@@ -108,6 +110,7 @@ void cPaletteWindows::Refresh() {
 }
 
 void cPaletteWindows::IdleRepaint() {
+  if (cEntryEditorBase* editor = OpenEntryEditor()) editor->RepaintShownPage();
   for (const cPaletteSide side : kRepaintOrder) Palette(side).Repaint();
 }
 

@@ -31,9 +31,9 @@ class cPaletteWindows {
   // After the stage or a palette changed: scroll bars, buttons and the
   // group boxes; the pictures follow in the next idle step.
   void Refresh();
-  // The repaint of each idle step, hidden windows too: stage blocks,
-  // common blocks, stage characters, common characters, stage items,
-  // common items.
+  // The repaint of each idle step: the page in front of an open entry
+  // editor, then the windows, hidden ones too: stage blocks, common
+  // blocks, stage characters, common characters, stage items, common items.
   void IdleRepaint();
   // Some window has a change that the next repaint is to show.
   bool RepaintWanted() const;

@@ -1,0 +1,285 @@
+#include <QApplication>
+#include <QMouseEvent>
+#include <gtest/gtest.h>
+
+#include "EntryEditorDriver.h"
+#include "core/EditConfig.h"
+#include "objects/CmdTable.h"
+#include "objects/CondTables.h"
+#include "objects/FlowTables.h"
+#include "stage/Stage.h"
+
+namespace velmora::testing {
+namespace {
+
+constexpr cPaletteSide kCommonBlocks{0, kKindBlock};
+constexpr cPaletteSide kCommonCharas{0, kKindChara};
+constexpr cPaletteSide kCommonItems{0, kKindItem};
+constexpr cPaletteSide kStageCharas{1, kKindChara};
+constexpr int kFlowPage = 3;
+
+using EntryEditors = cEntryEditorTest;
+
+cPalette LoadedCommonPalette() {
+  cPalette palette;
+  EXPECT_TRUE(palette.LoadFile(kCommonPaletteFile));
+  return palette;
+}
+
+TEST_F(EntryEditors, APlayerGivenAFlowIsSavedWithThatFlowAndNothingElseChanged) {
+  Save();
+  const cPalette before = LoadedCommonPalette();
+  OpenFromPalette(kCommonCharas, 1);
+  EXPECT_EQ(Editor().Window()->windowTitle().toStdString(), "キャラデータ");
+  EXPECT_FALSE(Stage().Window()->isEnabled()) << "the stage stays as it is while the editor is open";
+  ShowPage(kFlowPage);
+  Click(Front(), kIdFlowInsert);
+  Choose(Front(), kIdFlowTrigger, 0);
+  InsertCommand(kCmdLine, [](cDialog& d) {
+    Type(d, kIdMoveSpeed, "7");
+    Click(d, kIdOk);
+  });
+  InsertCommand(kCmdWait, [](cDialog& d) { Click(d, kIdOk); });
+  EXPECT_EQ(ListRows(Front(), kIdFlowList).size(), 1);
+  EXPECT_TRUE(ListRows(Front(), kIdFlowList).front().startsWith(QString::fromUtf8("×2 ")));
+  PressOk();
+  EXPECT_EQ(OpenEntryEditor(), nullptr);
+  EXPECT_TRUE(Stage().Window()->isEnabled());
+  Save();
+
+  cPalette after = LoadedCommonPalette();
+  const cEdChara& player = after.m_vecCharaPlt.at(1);
+  ASSERT_EQ(player.m_vFlow.size(), 1u);
+  const cEdFlow& flow = player.m_vFlow[0];
+  EXPECT_EQ(flow.m_nTrigger, 0);
+  ASSERT_EQ(flow.m_vCmd.size(), 2u);
+  EXPECT_EQ(flow.m_vCmd[0].m_nKind, kCmdWait) << "each insert stands in front of the selected row";
+  EXPECT_EQ(flow.m_vCmd[1].m_nKind, kCmdLine);
+  EXPECT_EQ(flow.m_vCmd[1].m_pMove->m_nSpeed, 7);
+  cEdCmd line;
+  line.SetUpNew(kCmdLine, false);
+  EXPECT_EQ(flow.m_vCmd[1].m_nTime, line.m_nTime);
+
+  // Every other byte as it was: the palette before, with this flow, saves
+  // to the same file.
+  cPalette expected = before;
+  expected.m_vecCharaPlt[1].m_vFlow = player.m_vFlow;
+  ASSERT_TRUE(expected.SaveFile("expected.cplt4"));
+  EXPECT_EQ(ReadBytes("expected.cplt4"), ReadBytes(kCommonPaletteFile));
+}
+
+TEST_F(EntryEditors, CancelOnAnyEditorLeavesTheFilesAsTheyWere) {
+  Save();
+  const std::vector<uint8_t> saved = Files();
+  const cPaletteSide sides[] = {kCommonBlocks, kCommonCharas, kCommonItems, kStageCharas};
+  for (const cPaletteSide side : sides) {
+    OpenFromPalette(side, 1);
+    for (int page = 0; page < Editor().PageCount(); ++page) {
+      ShowPage(page);
+      if (Front().Item(kIdEntryName)) Type(Front(), kIdEntryName, "x");
+    }
+    PressCancel();
+    EXPECT_EQ(OpenEntryEditor(), nullptr);
+  }
+  Save();
+  EXPECT_EQ(Files(), saved);
+}
+
+TEST_F(EntryEditors, ACellOpenedByARightDoubleClickIsTheOnlyThingItsOkChanges) {
+  cStage& stage = EditStage();
+  const std::vector<cEdBlock> cells = stage.m_vecBlockCell;
+  const std::vector<cEdBlock> entries = stage.m_vecBlockPlt;
+  const int y = stage.m_nHeight - 1;
+  const size_t index = static_cast<size_t>(stage.CellIndex(3, y));
+  ASSERT_NE(cells.at(index).m_nGraphicNo, 0);
+  Stage().ScrollTo(0, y);
+  const QPoint at((3 - Stage().ScrollX()) * 32 + 16, (y - Stage().ScrollY()) * 32 + 16);
+
+  bool opened = false;
+  WhenModal([&opened](QWidget*) {
+    opened = OpenEntryEditor() != nullptr;
+    if (!opened) return;
+    EXPECT_FALSE(Page(0).Item(kIdEntryPrev)->isEnabled()) << "a cell has no palette to go along";
+    EXPECT_FALSE(Page(0).Item(kIdEntryNext)->isEnabled());
+    // A placed block takes its name from its palette entry until the box
+    // is cleared.
+    EXPECT_FALSE(Enabled(Page(0), kIdEntryName));
+    Click(Page(0), 1024);
+    Type(Page(0), kIdEntryName, "一つだけ");
+    PressOk();
+  });
+  QWidget* client = ClientOf(Stage());
+  QMouseEvent dbl(QEvent::MouseButtonDblClick, at, client->mapToGlobal(at), Qt::RightButton, Qt::RightButton,
+                  Qt::NoModifier);
+  QApplication::sendEvent(client, &dbl);
+  ASSERT_TRUE(opened);
+  for (size_t i = 0; i < cells.size(); ++i) {
+    if (i == index) EXPECT_EQ(ToUtf8(stage.m_vecBlockCell[i].m_strName), "一つだけ");
+    else EXPECT_TRUE(stage.m_vecBlockCell[i] == cells[i]) << i;
+  }
+  EXPECT_TRUE(stage.m_vecBlockPlt == entries);
+  EXPECT_EQ(StageEdit().m_iUndoNum, 1);
+}
+
+TEST_F(EntryEditors, CellsAndStageEntriesFollowTheCommonEntryTheyInheritFrom) {
+  cStage& stage = EditStage();
+  cEdChara& stageEntry = stage.m_vecCharaPlt.at(1);
+  stageEntry.m_nInheritSrc = kInheritCommon;
+  stageEntry.m_nInheritNo = 2;
+  stageEntry.m_bbInherit.assign(kCharaInheritGroups, 0);
+  stageEntry.m_bbInherit[23] = 1;  // HP
+  stageEntry.m_nGraphicNo = 1;
+  const size_t cell = static_cast<size_t>(stage.CellIndex(5, 5));
+  stage.m_vecCharaCell.at(cell) = stageEntry;
+  stage.m_vecCharaCell[cell].m_nInheritSrc = kInheritStage;
+  stage.m_vecCharaCell[cell].m_nInheritNo = 1;
+
+  OpenFromPalette(kCommonCharas, 2);
+  ShowPage(2);
+  Type(Front(), kIdHp, "321");
+  PressOk();
+  EXPECT_EQ(CommonPalette().m_vecCharaPlt.at(2).m_nHp, 321);
+  EXPECT_EQ(stage.m_vecCharaPlt[1].m_nHp, 321);
+  EXPECT_EQ(stage.m_vecCharaCell[cell].m_nHp, 321);
+}
+
+TEST_F(EntryEditors, ABoxTakesItsGroupFromTheSourceAndTakesItsControlsOutOfReach) {
+  OpenFromPalette(kStageCharas, 1);
+  ShowPage(0);
+  cDialog& basic = Page(0);
+  EXPECT_EQ(Rows(basic, kIdInheritSrc).size(), 2) << "a stage entry inherits from the common palette only";
+  EXPECT_FALSE(Enabled(basic, 1024)) << "no source, no boxes";
+  Choose(basic, kIdInheritSrc, kInheritCommon);
+  EXPECT_TRUE(Enabled(basic, kIdInheritNo));
+  EXPECT_EQ(Rows(basic, kIdInheritNo).size(), 2);
+  Choose(basic, kIdInheritNo, 1);  // the slime, entry 2
+  Click(basic, 1024);  // キャラ名
+  EXPECT_EQ(Shown(basic, kIdEntryName), "スライム");
+  EXPECT_FALSE(Enabled(basic, kIdEntryName));
+  Click(Page(3), 1024);  // 行動, on another page
+  EXPECT_EQ(ListRows(Page(3), kIdFlowList).size(), 1) << "the slime's flow came in";
+  EXPECT_FALSE(Enabled(Page(3), kIdFlowInsert));
+
+  Choose(basic, kIdInheritSrc, kInheritNone);
+  EXPECT_FALSE(Enabled(basic, 1024));
+  EXPECT_TRUE(Enabled(basic, kIdEntryName));
+  EXPECT_EQ(Shown(basic, kIdEntryName), "スライム") << "the fields keep what they hold";
+  PressOk();
+  const cEdChara& entry = EditStage().m_vecCharaPlt.at(1);
+  EXPECT_EQ(entry.m_nInheritSrc, kInheritNone);
+  EXPECT_EQ(entry.m_bbInherit, std::vector<uint8_t>(kCharaInheritGroups, 0));
+  EXPECT_EQ(entry.m_vFlow.size(), 1u);
+}
+
+TEST_F(EntryEditors, ArrowsGoAlongThePaletteKeepingWhatWasChangedAndThePageIsRemembered) {
+  OpenFromPalette(kCommonBlocks, 1);
+  EXPECT_EQ(Editor().Window()->findChild<QTabWidget*>()->tabBar()->isVisible(), false);
+  EXPECT_FALSE(Enabled(Page(0), kIdEntryPrev));
+  EXPECT_EQ(qobject_cast<QLabel*>(Page(0).Item(kIdEntryNumber))->text().toStdString(), "No.1");
+  Type(Page(0), kIdEntryName, "床");
+  Click(Page(0), kIdEntryNext);
+  EXPECT_EQ(qobject_cast<QLabel*>(Page(0).Item(kIdEntryNumber))->text().toStdString(), "No.2");
+  EXPECT_EQ(Shown(Page(0), kIdEntryName), "レンガ");
+  EXPECT_EQ(ToUtf8(CommonPalette().m_vecBlockPlt[1].m_strName), "床");
+  EXPECT_EQ(StageEdit().m_iPltIndex, 2) << "the palette follows";
+  Click(Page(0), kIdEntryNext);
+  EXPECT_FALSE(Enabled(Page(0), kIdEntryNext)) << "the last entry";
+  PressCancel();
+
+  OpenFromPalette(kCommonItems, 1);
+  ShowPage(1);
+  PressCancel();
+  EXPECT_EQ(EditorConfig().m_anEditPage[kKindItem], 1);
+  OpenFromPalette(kCommonItems, 1);
+  EXPECT_EQ(Editor().Window()->findChild<QTabWidget*>()->currentIndex(), 1);
+  PressCancel();
+}
+
+TEST_F(EntryEditors, TheFlowPageKeepsItsTriggerRulesAndItsListsTheirOwnClipboards) {
+  OpenFromPalette(kCommonCharas, 2);
+  ShowPage(kFlowPage);
+  cDialog& page = Front();
+  ASSERT_EQ(ListRows(page, kIdFlowList).size(), 1);
+  Choose(page, kIdFlowGroup, 2);
+  EXPECT_TRUE(Enabled(page, kIdFlowGroup));
+  Choose(page, kIdFlowTrigger, kTriggerDeath);
+  EXPECT_FALSE(Enabled(page, kIdFlowGroup));
+  EXPECT_EQ(Shown(page, kIdFlowGroup), "-");
+  EXPECT_EQ(qobject_cast<QLabel*>(page.Item(kIdFlowTriggerNote))->text().toStdString(),
+            "※実行時間0の並列実行コマンド（P-0）のみ実行可");
+  EXPECT_FALSE(Enabled(page, kIdFlowTargetRelated));
+  Choose(page, kIdFlowTrigger, 6);
+  EXPECT_TRUE(Enabled(page, kIdFlowTargetRelated));
+
+  // A command copied in one flow goes into another: the clipboard is the
+  // command list's.
+  const QStringList commands = ListRows(page, kIdCmdList);
+  ASSERT_FALSE(commands.isEmpty());
+  ListKey<cEdCmd>(page, kIdCmdList, 0, Qt::Key_C);
+  Click(page, kIdFlowInsert);
+  EXPECT_EQ(ListRows(page, kIdCmdList).size(), 0) << "the new flow is selected";
+  InsertCommand(kCmdWait, [](cDialog& d) { Click(d, kIdOk); });
+  ListKey<cEdCmd>(page, kIdCmdList, 0, Qt::Key_V);
+  ASSERT_EQ(ListRows(page, kIdCmdList).size(), 2);
+  EXPECT_EQ(ListRows(page, kIdCmdList).front(), commands.front());
+  EXPECT_TRUE(ListRows(page, kIdFlowList).front().startsWith(QString::fromUtf8("×2 "))) << "its row counts it at once";
+  PressOk();
+  const std::vector<cEdFlow>& flows = CommonPalette().m_vecCharaPlt.at(2).m_vFlow;
+  ASSERT_EQ(flows.size(), 2u);
+  EXPECT_EQ(flows[0].m_vCmd.size(), 2u);
+  EXPECT_EQ(flows[1].m_nTrigger, 6);
+  EXPECT_EQ(flows[1].m_nFlowGroup, 0);
+}
+
+TEST_F(EntryEditors, ABlockRefusesAPasteOfADistanceConditionAsAWhole) {
+  cEdCond distance;
+  distance.m_nKind = kCondDistance;
+  cEdCond variable;
+  variable.m_nKind = kCondCommonVar;
+  CommonPalette().m_vecBlockPlt.at(1).m_vCond = {variable, distance};
+  OpenFromPalette(kCommonBlocks, 1);
+  cDialog& page = Page(0);
+  const QStringList rows = ListRows(page, kIdAppearList);
+  ASSERT_EQ(rows.size(), 2);
+  ListKey<cEdCond>(page, kIdAppearList, 1, Qt::Key_C);
+  ListKey<cEdCond>(page, kIdAppearList, 0, Qt::Key_V);
+  EXPECT_EQ(prompt.LastText(), "「距離条件」の貼り付けはできません！");
+  EXPECT_EQ(ListRows(page, kIdAppearList), rows);
+  ListKey<cEdCond>(page, kIdAppearList, 0, Qt::Key_C);
+  ListKey<cEdCond>(page, kIdAppearList, 0, Qt::Key_V);
+  EXPECT_EQ(ListRows(page, kIdAppearList).size(), 3);
+  PressCancel();
+}
+
+TEST_F(EntryEditors, ADamagedEntryOpensClampedAndOkWritesWhatLoadingWouldAccept) {
+  cEdChara& damaged = CommonPalette().m_vecCharaPlt.at(2);
+  damaged.m_bbInherit.assign(3, 1);
+  damaged.m_nHp = 5000000;
+  damaged.m_nAnimeSet = 900;
+  damaged.m_nBodyHitRange = 77;
+  damaged.m_vFlow.assign(2, cEdFlow());
+  damaged.m_vFlow[0].m_nTrigger = 1;
+  damaged.m_vFlow[1].m_nTrigger = 200;
+  damaged.m_vFlow[1].m_vCmd.resize(999);
+  for (cEdCmd& cmd : damaged.m_vFlow[1].m_vCmd) cmd.SetUpNew(kCmdWait, false);
+  OpenFromPalette(kCommonCharas, 2);
+  ShowPage(2);
+  EXPECT_EQ(Shown(Front(), kIdHp), "999999");
+  ShowPage(kFlowPage);
+  ListAt(Front(), kIdFlowList)->setCurrentRow(1);
+  EXPECT_EQ(ListRows(Front(), kIdCmdList).size(), 999);
+  PressOk();
+
+  const cEdChara& stored = CommonPalette().m_vecCharaPlt.at(2);
+  EXPECT_EQ(stored.m_bbInherit.size(), static_cast<size_t>(kCharaInheritGroups));
+  EXPECT_EQ(stored.m_nHp, 999999);
+  EXPECT_LT(stored.m_nBodyHitRange, BodyHitTable.Size());
+  EXPECT_LT(stored.m_vFlow.at(1).m_nTrigger, TriggerTable.Size());
+  Save();
+  cEdChara expected = stored;
+  expected.m_bbInherit.assign(kCharaInheritGroups, 0);  // a common entry inherits nothing
+  EXPECT_TRUE(LoadedCommonPalette().m_vecCharaPlt.at(2) == expected) << "loading changes nothing else of it";
+}
+
+}  // namespace
+}  // namespace velmora::testing

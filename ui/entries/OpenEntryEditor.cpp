@@ -1,0 +1,58 @@
+#include "ui/entries/OpenEntryEditor.h"
+
+#include "core/Log.h"
+#include "core/SystemText.h"
+#include "ui/entries/EntryEditor.h"
+#include "ui/framework/DialogManager.h"
+
+namespace velmora {
+namespace {
+
+cEntryEditorBase* g_pOpenEditor = nullptr;
+
+bool IsBlankEntry(const cEditPlace& place) {
+  return (place.target == kEditStageEntry || place.target == kEditCommonEntry) && place.index == 0;
+}
+
+}  // namespace
+
+cEntryEditorBase* OpenEntryEditor() { return g_pOpenEditor; }
+
+template <class Entry>
+bool EditEntryAt(cDialogManager& manager, QWidget* owner, const cEditPlace& place, Entry* cell, cEditorClosed closed) {
+  if (g_pOpenEditor || IsBlankEntry(place)) return false;
+  if (!PointEditAt<Entry>(place, cell)) {
+    ErrorBoxText(SysText("編集するデータがありません！"));
+    return false;
+  }
+  if (!closed) {
+    cEntryEditor<Entry> editor(manager, owner, place, true);
+    g_pOpenEditor = &editor;
+    editor.Start();
+    g_pOpenEditor = nullptr;
+    return true;
+  }
+  EnableAll(manager, false);
+  auto* editor = new cEntryEditor<Entry>(manager, owner, place, false);
+  g_pOpenEditor = editor;
+  editor->onFinished = [&manager, closed = std::move(closed)](int result) {
+    g_pOpenEditor = nullptr;
+    EnableAll(manager, true);
+    closed(result);
+  };
+  editor->Start();
+  return true;
+}
+
+bool EditPaletteEntry(cDialogManager& manager, QWidget* owner, cPaletteSide side, int index, cEditorClosed closed) {
+  const cEditPlace place{side.stagePlt ? kEditStageEntry : kEditCommonEntry, side.kind, index};
+  if (side.kind == kKindBlock) return EditEntryAt<cEdBlock>(manager, owner, place, nullptr, std::move(closed));
+  if (side.kind == kKindChara) return EditEntryAt<cEdChara>(manager, owner, place, nullptr, std::move(closed));
+  return EditEntryAt<cEdItem>(manager, owner, place, nullptr, std::move(closed));
+}
+
+template bool EditEntryAt(cDialogManager&, QWidget*, const cEditPlace&, cEdBlock*, cEditorClosed);
+template bool EditEntryAt(cDialogManager&, QWidget*, const cEditPlace&, cEdChara*, cEditorClosed);
+template bool EditEntryAt(cDialogManager&, QWidget*, const cEditPlace&, cEdItem*, cEditorClosed);
+
+}  // namespace velmora

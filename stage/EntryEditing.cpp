@@ -83,6 +83,7 @@ bool StoreEntry(const cEditPlace& place, const Entry& entry) {
   switch (place.target) {
     case kEditCell:
       RecordStep(LayerBit(place.kind));
+      NoteCellWrite(*at);
       *at = entry;
       edit.m_bStageChanged = 1;
       break;

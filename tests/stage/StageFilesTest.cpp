@@ -145,14 +145,14 @@ TEST_F(cStageFilesTest, OpenCloseAndNewLeaveAHistoryOfTheStagesDepth) {
   ASSERT_EQ(1, SaveStage(1));
   m_prompt.QueuePath(kStored);
   ASSERT_EQ(1, OpenStage());
-  EXPECT_EQ(2u, StageEdit().m_vecUndoBlock.size());
+  EXPECT_EQ(2u, StageEdit().m_vecUndoMask.size());
   RecordStep(kLayerAll);
   EXPECT_TRUE(CanUndo());
   CloseStage();
   EXPECT_FALSE(CanUndo());
-  EXPECT_EQ(static_cast<size_t>(EditStage().m_iUndoCount), StageEdit().m_vecUndoBlock.size());
+  EXPECT_EQ(static_cast<size_t>(EditStage().m_iUndoCount), StageEdit().m_vecUndoMask.size());
   OpenLastStage(".\\data\\stg4\\a.stg4_950");
-  EXPECT_EQ(2u, StageEdit().m_vecRedoItem.size());
+  EXPECT_EQ(2u, StageEdit().m_vecRedoMask.size());
 }
 
 TEST_F(cStageFilesTest, NewStageReadsTheNewestTemplateAndItsPaletteSource) {
@@ -210,7 +210,7 @@ TEST_F(cStageFilesTest, ANewStageFromFilesThatCannotBeReadLeavesTheStageAsItWas)
   EXPECT_TRUE(EditStage().HasPlayer());
   EXPECT_EQ(".\\data\\stg4\\a.stg4_950", StageEdit().m_strPath);
   EXPECT_EQ(1, StageEdit().m_bStageChanged);
-  EXPECT_EQ(2u, StageEdit().m_vecUndoBlock.size()) << "the history of the stage that stays";
+  EXPECT_EQ(2u, StageEdit().m_vecUndoMask.size()) << "the history of the stage that stays";
 
   EditStage().m_vecBlockPlt.resize(5);
   m_prompt.QueuePath("data\\plt4\\good.plt4");
@@ -319,7 +319,7 @@ TEST_F(cStageFilesTest, AStageFileThatCannotBeReadLeavesTheOpenStageAsItWas) {
     EXPECT_EQ(1, StageEdit().m_bHasStage);
     EXPECT_EQ(1, StageEdit().m_bStageChanged);
     EXPECT_EQ(".\\data\\stg4\\a.stg4_950", StageEdit().m_strPath);
-    EXPECT_EQ(3u, StageEdit().m_vecUndoBlock.size()) << "the history is made anew for the stage that stays";
+    EXPECT_EQ(3u, StageEdit().m_vecUndoMask.size()) << "the history is made anew for the stage that stays";
     ASSERT_TRUE(EditStage().SaveFile("data/after.bin"));
     EXPECT_EQ(expected, ReadBytes("data/after.bin")) << broken;
   }

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "FullStage.h"
 #include "core/SaveData.h"
 #include "platform/FileSystem.h"
 #include "platform/HeapPolicy.h"
@@ -24,44 +25,6 @@ constexpr int kLoadRounds = 3;
 
 double Ms(std::chrono::steady_clock::time_point since) {
   return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - since).count();
-}
-
-template <class Entry>
-void GiveBehaviour(Entry& entry, int graphic) {
-  entry.m_nGraphicNo = graphic;
-  entry.m_vCond.resize(2);
-  entry.m_vCond[1].m_nKind = 3;
-}
-
-void FillStage(cStage& stage) {
-  stage.InitDefault();
-  stage.SetSize(kSide, kSide, 0, 0);
-  cEdChara enemy;
-  GiveBehaviour(enemy, 2);
-  enemy.m_nControl = 1;
-  enemy.m_vFlow.resize(3);
-  for (cEdFlow& flow : enemy.m_vFlow) {
-    flow.m_vCond.resize(2);
-    flow.m_vCmd.resize(4);
-    for (cEdCmd& cmd : flow.m_vCmd) cmd.m_vParam.assign(6, 7);
-  }
-  cEdBlock block;
-  GiveBehaviour(block, 1);
-  cEdItem item;
-  GiveBehaviour(item, 3);
-  item.m_vCmd.resize(2);
-  stage.m_vecBlockPlt.push_back(block);
-  stage.m_vecCharaPlt.push_back(enemy);
-  stage.m_vecItemPlt.push_back(item);
-  for (int y = 0; y < kSide; ++y) {
-    for (int x = 0; x < kSide; ++x) {
-      const size_t cell = static_cast<size_t>(stage.CellIndex(x, y));
-      stage.m_vecBlockCell[cell].CopyFrom(block);
-      stage.m_vecCharaCell[cell] = enemy;
-      stage.m_vecItemCell[cell] = item;
-    }
-  }
-  stage.m_vecCharaCell[0].m_nControl = 0;  // the player
 }
 
 double PlainWrite(const std::string& host, size_t bytes) {
@@ -114,7 +77,7 @@ int main() {
   // The process is set up as the editor sets itself up.
   KeepLayersInHeap();
   cStage& stage = EditStage();
-  FillStage(stage);
+  bench::FillWithBehaviour(stage, kSide);
 
   // Both writes start with no dirty pages waiting, so that neither is held
   // back by the other's write-back.

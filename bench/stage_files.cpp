@@ -10,10 +10,12 @@
 #include <vector>
 
 #include "FullStage.h"
+#include "ThreadClock.h"
 #include "core/SaveData.h"
 #include "platform/FileSystem.h"
 #include "platform/HeapPolicy.h"
 #include "stage/Stage.h"
+#include "stage/StageLoader.h"
 
 namespace {
 
@@ -39,16 +41,18 @@ double PlainWrite(const std::string& host, size_t bytes) {
 
 double PlainRead(const std::string& host) {
   std::vector<char> chunk(kChunk);
-  const auto start = std::chrono::steady_clock::now();
+  const double start = bench::ThreadMs();
   std::FILE* file = std::fopen(host.c_str(), "rb");
   while (std::fread(chunk.data(), 1, kChunk, file) == kChunk) {
   }
   std::fclose(file);
-  return Ms(start);
+  return bench::ThreadMs() - start;
 }
 
 // One load and one plain read of the same bytes, each from the page cache,
-// taken back to back so that both see the machine in the same state.
+// taken back to back so that both see the machine in the same state. Both
+// count processor time, as the machine is shared; the load's counts both
+// of its threads, the worker that parses and this one that waits.
 struct cLoadRound {
   double load = 0;
   double read = 0;
@@ -58,9 +62,10 @@ struct cLoadRound {
 cLoadRound LoadRound(cStage& stage, const std::string& stored, const std::string& plain) {
   cLoadRound round;
   stage.InitDefault();
-  const auto start = std::chrono::steady_clock::now();
-  if (!stage.LoadFile(stored)) return round;
-  round.load = Ms(start);
+  const double start = bench::ProcessMs();
+  // The editor's own way: the worker parses while this thread waits.
+  if (StageLoader().Run(stored, stage) != eStageLoad::Loaded) return round;
+  round.load = bench::ProcessMs() - start;
   round.whole = stage.m_nWidth == kSide && stage.m_vecItemCell[1].m_nGraphicNo == 3 &&
                 stage.m_vecCharaCell[static_cast<size_t>(stage.CellIndex(kSide - 1, kSide - 1))].m_vFlow.size() == 3;
   round.read = PlainRead(plain);
@@ -107,7 +112,7 @@ int main() {
   std::printf("BENCH stage_file_bytes %lld bytes\n", bytes);
   std::printf("BENCH stage_save_ms %.1f ms\n", save);
   std::printf("BENCH stage_load_ms %.1f ms\n", middle.load);
-  std::printf("BENCH stage_load_vs_read_ratio %.2f x target <= 10\n", middle.load / middle.read);
+  std::printf("BENCH stage_load_vs_read_ratio %.2f x target <= 6\n", middle.load / middle.read);
   std::printf("BENCH stage_save_vs_write_ratio %.2f x target <= 10\n", save / write);
   return 0;
 }

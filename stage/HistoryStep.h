@@ -16,8 +16,6 @@ template <class T>
 struct cLayerChanges {
   std::vector<std::pair<int32_t, T>> kept;
   std::vector<int32_t> emptied;
-
-  bool empty() const { return kept.empty() && emptied.empty(); }
 };
 
 // One undo or redo step: what it holds costs what the step changed, not

@@ -19,13 +19,13 @@ namespace {
 // rules the level count, since one step may change every cell.
 constexpr uint64_t kBytesPerCell = 459 + 276 + 1137 + 453;
 
-// Runs `fn` with the bit, the stage's cells and the step's changes of each
-// layer in the mask: blocks, characters, items.
+// Runs `fn` with the stage's cells and the step's changes of each layer in
+// the mask: blocks, characters, items.
 template <class Fn>
 void ForEachLayer(uint32_t mask, Fn&& fn) {
-  if (mask & kLayerBlock) fn(kLayerBlock, &cStage::m_vecBlockCell, &cHistoryStep::block);
-  if (mask & kLayerChara) fn(kLayerChara, &cStage::m_vecCharaCell, &cHistoryStep::chara);
-  if (mask & kLayerItem) fn(kLayerItem, &cStage::m_vecItemCell, &cHistoryStep::item);
+  if (mask & kLayerBlock) fn(&cStage::m_vecBlockCell, &cHistoryStep::block);
+  if (mask & kLayerChara) fn(&cStage::m_vecCharaCell, &cHistoryStep::chara);
+  if (mask & kLayerItem) fn(&cStage::m_vecItemCell, &cHistoryStep::item);
 }
 
 struct cStack {
@@ -70,7 +70,7 @@ void CloseStep() {
   auto unmark = [&](int32_t i) {
     if (static_cast<size_t>(i) < e.m_vecStepHeld.size()) e.m_vecStepHeld[static_cast<size_t>(i)] = 0;
   };
-  ForEachLayer(kLayerAll, [&](uint32_t, auto, auto changes) {
+  ForEachLayer(kLayerAll, [&](auto, auto changes) {
     const auto& held = e.m_vecUndoStep.front().*changes;
     for (const auto& [i, record] : held.kept) unmark(i);
     for (int32_t i : held.emptied) unmark(i);
@@ -145,7 +145,7 @@ bool PushStep(uint32_t mask, cStack stack, cHistoryStep step) {
 cHistoryStep PresentOf(const cHistoryStep& step, uint32_t mask) {
   cHistoryStep present;
   const cStage& stage = EditStage();
-  ForEachLayer(mask, [&](uint32_t, auto layer, auto changes) {
+  ForEachLayer(mask, [&](auto layer, auto changes) {
     const auto& cells = stage.*layer;
     auto& into = present.*changes;
     const auto& held = step.*changes;
@@ -160,7 +160,7 @@ cHistoryStep PresentOf(const cHistoryStep& step, uint32_t mask) {
 void Restore(cHistoryStep& step, uint32_t mask) {
   cStage& stage = EditStage();
   cStagePaletteScope scope(stage);
-  ForEachLayer(mask, [&](uint32_t, auto layer, auto changes) {
+  ForEachLayer(mask, [&](auto layer, auto changes) {
     auto& cells = stage.*layer;
     auto& held = step.*changes;
     for (int32_t i : held.emptied) VecAt(cells, i).m_nGraphicNo = 0;
@@ -267,7 +267,7 @@ void NoteCellWrite(const cEdItem& cell) { Note(cell, &cStage::m_vecItemCell, &cH
 
 void NoteLayerWrite(uint32_t mask) {
   const cStage& stage = EditStage();
-  ForEachLayer(mask, [&](uint32_t, auto layer, auto) {
+  ForEachLayer(mask, [&](auto layer, auto) {
     const auto& cells = stage.*layer;
     ScanOccupied(cells, [&](int i) { NoteCellWrite(cells[static_cast<size_t>(i)]); });
   });

@@ -21,6 +21,7 @@
 #include "ui/framework/WindowFrame.h"
 #include "ui/database/DatabaseSheet.h"
 #include "ui/stage/NewStageDialog.h"
+#include "ui/stagesettings/StageSettingsSheet.h"
 #include "ui/system/SystemSheet.h"
 #include "ui/worldmap/WorldMapEntry.h"
 
@@ -99,6 +100,7 @@ void cStageWindow::OpenPalettes() {
     });
   }
   InstallSystemWindow(*this);
+  InstallStageSettings(*this);
   InstallWorldMapEntry(*this);
 }
 

@@ -248,6 +248,7 @@ TEST_F(StageSettings, DamagedSettingsOpenClampedAndLoseNothingOnCancel) {
 TEST_F(StageSettings, BackgroundDialogSwitchesBetweenColourAndPicture) {
   cStage& stage = EditStage();
   stage.m_vecBack.assign(1, cStageBack());
+  prompt.QueuePath("bmp\\back\\sky.bmp");
   RunSheet(
       [&] {
         WhenModal([](QWidget* modal) {
@@ -255,6 +256,7 @@ TEST_F(StageSettings, BackgroundDialogSwitchesBetweenColourAndPicture) {
           EXPECT_FALSE(dialog.Item(kIdBackColor)->isEnabled());
           EXPECT_TRUE(dialog.Item(kIdBackSpeedX)->isEnabled());
           EXPECT_FALSE(dialog.Item(kIdBackAutoSpeedX)->isEnabled());
+          QTest::mouseClick(dialog.Item(kIdBackBrowse), Qt::LeftButton, {}, QPoint(6, 6));
           QTest::mouseClick(dialog.Item(kIdBackAutoX), Qt::LeftButton, {}, QPoint(6, 6));
           EXPECT_TRUE(dialog.Item(kIdBackAutoSpeedX)->isEnabled());
           QTest::mouseClick(dialog.Item(kIdBackUseColor), Qt::LeftButton, {}, QPoint(6, 6));
@@ -270,6 +272,8 @@ TEST_F(StageSettings, BackgroundDialogSwitchesBetweenColourAndPicture) {
       true);
   EXPECT_EQ(1, stage.m_vecBack[0].m_bUseColor);
   EXPECT_EQ(1, stage.m_vecBack[0].m_bAutoX);
+  EXPECT_EQ("bmp\\back\\sky.bmp", stage.m_vecBack[0].m_strPath) << "a colour layer keeps its picture for later";
+  EXPECT_EQ("ビットマップの選択", prompt.Shown().back().caption);
 }
 
 class StageOptions : public StageSettings {

@@ -124,9 +124,15 @@ TEST_F(StageSettings, TheFiguresFollowTheSizeFieldsAndOkAppliesTheSmallestStage)
   cStage& stage = EditStage();
   ASSERT_GT(stage.m_nWidth, 20);
   const int barBefore = HorzBarMaximum();
+  stage.m_iUndoCount = 2;
+  // Room for the stage and one step besides it, and no history.
+  StageHooks().freeMemory = [&stage] { return EstimateStep(stage.m_nWidth, stage.m_nHeight); };
   RunSheet(
       [&] {
+        EXPECT_EQ("※元に戻せる回数 2 → 0", Label(0, kIdUndoDrop));
+        StageHooks().freeMemory = nullptr;
         Type(0, kIdWidth, "10");
+        EXPECT_EQ("", Label(0, kIdUndoDrop));
         std::string expected = HistoryMemoryFigures(10, stage.m_nHeight).figures;
         std::erase(expected, '\r');
         EXPECT_EQ(FromCp932(expected).toStdString(), Label(0, kIdMemoryFigures)) << "pitch 16, not the 32 of 20 columns";

@@ -10,7 +10,7 @@
 #include "stage/StageSettings.h"
 #include "stage/StageSize.h"
 #include "ui/controls/ComboRows.h"
-#include "ui/framework/DialogManager.h"
+#include "ui/framework/QtText.h"
 #include "ui/list/RecordListControl.h"
 #include "ui/stagesettings/BackDialog.h"
 #include "ui/stagesettings/StageSettingsIds.h"
@@ -71,6 +71,13 @@ class cBasicPage : public cStageSettingsPage {
  protected:
   void BindOwnControls() override {
     if (auto* list = BindRecordList(*this, kBackIds, m_backList)) list->View().Show();
+    // The hidden widths come and go with their boxes; their room stays, so
+    // the limits beside them don't change width at each click.
+    for (int edge = 0; edge < kEdgeCount; ++edge) {
+      if (QWidget* text = Item(kIdHiddenWidth + edge)) {
+        text->setMinimumWidth(text->fontMetrics().horizontalAdvance(Ui("隠れる幅 000(bl)")));
+      }
+    }
   }
 
   void UpdateEnables() override {

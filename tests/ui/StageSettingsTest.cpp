@@ -167,6 +167,7 @@ TEST_F(StageSettings, EnableRulesFollowTheBoxesAndRankingKeepsItsValuesWhileOff)
   stage.m_vecRankItem = {1, 1, 1, 1, 1};
   stage.m_bSkipClearWait = 0;
   stage.m_bTimeLimit = 0;
+  stage.m_iHitLevel = 10;
   RunSheet(
       [&] {
         EXPECT_FALSE(Enabled(0, kIdTimeLimit));
@@ -182,6 +183,7 @@ TEST_F(StageSettings, EnableRulesFollowTheBoxesAndRankingKeepsItsValuesWhileOff)
         for (int item = 0; item < kRankItemCount; ++item) EXPECT_FALSE(Enabled(0, kIdRankItem + item)) << item;
         EXPECT_FALSE(Checked(0, kIdRankItem + 1));
         EXPECT_TRUE(Checked(0, kIdRankItem + 2));
+        EXPECT_EQ(Ui("レベル10 (速度制限=600)"), Show<QComboBox>(1, kIdHitLevel)->currentText()) << "levels count from 1";
         EXPECT_FALSE(Enabled(1, kIdVanishMargin + 0));
         Click(1, kIdVanishOn + 0);
         EXPECT_TRUE(Enabled(1, kIdVanishMargin + 0));

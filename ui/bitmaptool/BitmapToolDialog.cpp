@@ -40,6 +40,7 @@ QWidget* MakeProgressBar(QWidget* parent) {
   bar->setRange(0, 1);
   bar->setValue(0);
   bar->setFormat(QStringLiteral("%v / %m"));
+  bar->setTextVisible(false);  // until there is a run to count
   return bar;
 }
 
@@ -170,6 +171,7 @@ void cBitmapToolDialog::Convert() {
   if (bar) {
     bar->setRange(0, static_cast<int>(files.size()));
     bar->setValue(0);
+    bar->setTextVisible(true);
   }
   QApplication::setOverrideCursor(Qt::WaitCursor);
   RunConversion(files, m_options, [bar](size_t done, size_t total) {

@@ -53,7 +53,9 @@ class cGeneralOptionPage : public cDialog {
   cGeneralOptionPage(cDialogManager& manager, PrjOption& work) : cDialog(manager, nullptr), m_work(work) {
     SetLogName("project options 1");
     m_form.okCancel = false;  // the sheet's
-    m_form.rows = {
+    // In a scroll area the groups keep their own height, however tall the
+    // sheet's other page makes the sheet.
+    m_form.rows = {FormScroll({
         FormGroup("新しいデータの初期値",
                   {
                       {nullptr, cButtonDesc{kIdDefBlock, "ブロック"}},
@@ -79,7 +81,7 @@ class cGeneralOptionPage : public cDialog {
                        cEditValDesc{kIdBackupHours, &work.m_nBackupHours, 0, kMostBackupHours, kIdBackupSpin, 1},
                        nullptr, "時間経過していたら再バックアップ"},
                   }),
-    };
+    })};
   }
 
  protected:

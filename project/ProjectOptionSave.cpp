@@ -12,6 +12,9 @@ namespace velmora {
 
 bool SaveProjectOptions(const PrjOption& edited) {
   PrjOption saved = edited;
+  // No page shows the time of the last backup; a backup taken while the
+  // pages were open has set it since the copy was made.
+  saved.m_nLastBackupMinute = ProjectOption().m_nLastBackupMinute;
   const std::string& path = PathOf(ePath::PrjOption);
   if (!SaveRecordSafely(saved, path)) {
     ErrorBox(SysText("%s の保存に失敗しました！"), path.c_str());

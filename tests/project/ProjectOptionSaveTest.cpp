@@ -26,6 +26,7 @@ class ProjectOptionSave : public ::testing::Test {
 TEST_F(ProjectOptionSave, SavedOptionsComeBackAndTakeEffect) {
   MakeDirs("data");
   PrjOption edited;
+  ProjectOption().m_nLastBackupMinute = 4321;  // a backup taken meanwhile
   edited.m_strGamePath = ".\\Game.exe";
   edited.m_nBackupHours = 999;
   edited.m_vDefFlags[kMomentStagePlaced][kKindItem][12] = 0;
@@ -38,6 +39,7 @@ TEST_F(ProjectOptionSave, SavedOptionsComeBackAndTakeEffect) {
   EXPECT_EQ(reloaded.m_nBackupHours, 999);
   EXPECT_EQ(reloaded.m_vDefFlags[kMomentStagePlaced][kKindItem][12], 0);
   EXPECT_EQ(reloaded.m_DefChara.m_strName, "default");
+  EXPECT_EQ(reloaded.m_nLastBackupMinute, 4321);
 }
 
 TEST_F(ProjectOptionSave, AFileThatCantBeWrittenKeepsTheOptionsInForce) {

@@ -7,7 +7,11 @@
 #include "objects/CmdTable.h"
 #include "objects/CondTables.h"
 #include "objects/FlowTables.h"
+#include "project/Database.h"
 #include "stage/Stage.h"
+#include "ui/controls/ThumbnailGrid.h"
+#include "ui/database/ObjectListDialog.h"
+#include "ui/entries/AnimeSetListDialog.h"
 
 namespace velmora::testing {
 namespace {
@@ -279,6 +283,51 @@ TEST_F(EntryEditors, ADamagedEntryOpensClampedAndOkWritesWhatLoadingWouldAccept)
   cEdChara expected = stored;
   expected.m_bbInherit.assign(kCharaInheritGroups, 0);  // a common entry inherits nothing
   EXPECT_TRUE(LoadedCommonPalette().m_vecCharaPlt.at(2) == expected) << "loading changes nothing else of it";
+}
+
+TEST_F(EntryEditors, TheListsBesideAGraphicAndAnAnimationSetHandBackThePickedRowOnlyOnOk) {
+  OpenFromPalette(kCommonBlocks, 1);
+  const std::string number = Shown(Page(0), kIdGraphicNo);
+  InModal([](cDialog& d) {
+    static_cast<cObjectListDialog&>(d).Pick(37);
+    Click(d, kIdCancel);
+  });
+  Click(Page(0), kIdGraphicPick);
+  EXPECT_EQ(Shown(Page(0), kIdGraphicNo), number);
+  InModal([](cDialog& d) {
+    static_cast<cObjectListDialog&>(d).Pick(37);
+    Click(d, kIdOk);
+  });
+  Click(Page(0), kIdGraphicPick);
+  EXPECT_EQ(Shown(Page(0), kIdGraphicNo), "37");
+  Choose(Page(0), kIdGraphicKind, kGraphicKindOwnBmp);
+  EXPECT_FALSE(Enabled(Page(0), kIdGraphicPick)) << "an own bitmap has no sheet to pick from";
+  PressCancel();
+  EXPECT_NE(CommonPalette().m_vecBlockPlt[1].m_nGraphicNo, 37);
+
+  const int sets = static_cast<int>(Database().m_AnimeSet.m_vecEntries.size());
+  ASSERT_GE(sets, 2);
+  OpenFromPalette(kCommonCharas, 1);
+  ShowPage(1);
+  const int16_t before = CommonPalette().m_vecCharaPlt[1].m_nAnimeSet;
+  const int other = before == 1 ? 0 : 1;
+  InModal([sets, other](cDialog& d) {
+    auto* grid = d.Window()->findChild<cThumbnailGrid*>();
+    ASSERT_NE(grid, nullptr);
+    EXPECT_EQ(grid->IndexAt(grid->CellRect(sets - 1).center()), sets - 1);
+    EXPECT_EQ(grid->IndexAt(grid->CellRect(sets).center()), -1) << "no set beyond the list";
+    static_cast<cAnimeSetListDialog&>(d).Pick(sets);  // beyond the list: nothing picked
+    const QPoint at = grid->CellRect(other).center();
+    QMouseEvent press(QEvent::MouseButtonPress, at, grid->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(grid, &press);
+    QMouseEvent twice(QEvent::MouseButtonDblClick, at, grid->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(grid, &twice);  // a double click closes as OK
+  });
+  Click(Front(), kIdAnimeSetPick);
+  EXPECT_EQ(OpenEntryEditor() != nullptr, true);
+  PressOk();
+  EXPECT_EQ(CommonPalette().m_vecCharaPlt[1].m_nAnimeSet, other);
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include "project/Database.h"
 #include "ui/conditions/EditCondition.h"
 #include "ui/controls/Picture.h"
+#include "ui/database/ObjectListDialog.h"
+#include "ui/entries/AnimeSetListDialog.h"
 #include "ui/entries/EntryRows.h"
 #include "ui/framework/IdleWake.h"
 #include "ui/list/RecordListControl.h"
@@ -95,11 +97,29 @@ bool cEntryPage<Entry>::IsInheritChoice(int id) const {
 }
 
 template <class Entry>
+bool cEntryPage<Entry>::PickFromList(int id) {
+  bool picked = false;
+  if (id == kIdGraphicPick) {
+    cObjectListDialog list(Manager(), Window(), m_work.entry.m_nGraphicKind, m_work.entry.m_nGraphicNo);
+    picked = list.DoModal(kDisableOthers) == 1;
+  } else if constexpr (std::is_same_v<Entry, cEdChara>) {
+    if (id != kIdAnimeSetPick) return false;
+    cAnimeSetListDialog list(Manager(), Window(), m_work.entry.m_nAnimeSet);
+    picked = list.DoModal(kDisableOthers) == 1;
+  } else {
+    return false;
+  }
+  if (picked) Reload();
+  return true;
+}
+
+template <class Entry>
 void cEntryPage<Entry>::OnDialogCommand(int id, int notice) {
   if (notice == kNoticeClicked && (id == kIdEntryPrev || id == kIdEntryNext)) {
     m_host.ShowNeighbour(id == kIdEntryNext ? 1 : -1);
     return;
   }
+  if (notice == kNoticeClicked && PickFromList(id)) return;
   if (IsInheritChoice(id)) {
     if (FindChanged(MakeCommand(id, notice)) == 0) return;
     FindControl(id)->Commit();

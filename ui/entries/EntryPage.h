@@ -70,6 +70,8 @@ class cEntryPage : public cDialog {
 
  private:
   bool IsInheritChoice(int id) const;
+  // "一覧" of the graphic or the animation set; false for another id.
+  bool PickFromList(int id);
   void RequestPreview();
 
   cEntryWork<Entry>& m_work;

@@ -1,6 +1,7 @@
 #include "ui/entries/EntryPage.h"
 
 #include <QPainter>
+#include <QVBoxLayout>
 
 #include "objects/CondRules.h"
 #include "objects/CondSummary.h"
@@ -46,6 +47,14 @@ cEntryPage<Entry>::cEntryPage(cDialogManager& manager, cEntryWork<Entry>& work, 
     return EditCondition(cond, isNew, Manager(), Window(), distance);
   };
   if (!kMeasuresDistance<Entry>) m_conds.m_PasteRefusal = DistancePasteRefusal;
+}
+
+// The sheet is as tall as its tallest page, the flows; the shorter pages
+// keep their rows at the top rather than spreading them over that height.
+template <class Entry>
+void cEntryPage<Entry>::BuildClient(QWidget& client) {
+  cDialog::BuildClient(client);
+  if (auto* column = qobject_cast<QVBoxLayout*>(client.layout())) column->addStretch(1);
 }
 
 template <class Entry>

@@ -60,6 +60,7 @@ class cEntryPage : public cDialog {
   void RepaintPreview();
 
  protected:
+  void BuildClient(QWidget& client) override;
   void BindOwnControls() override;
   void UpdateEnables() override;
   void OnDialogCommand(int id, int notice) override;

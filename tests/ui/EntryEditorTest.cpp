@@ -285,6 +285,29 @@ TEST_F(EntryEditors, ADamagedEntryOpensClampedAndOkWritesWhatLoadingWouldAccept)
   EXPECT_TRUE(LoadedCommonPalette().m_vecCharaPlt.at(2) == expected) << "loading changes nothing else of it";
 }
 
+TEST_F(EntryEditors, AnEntryWithListsBeyondItsEditorIsNotOpenedAndStaysAsItIs) {
+  cEdChara& damaged = CommonPalette().m_vecCharaPlt.at(2);
+  damaged.m_vFlow.assign(1, cEdFlow());
+  damaged.m_vFlow[0].m_vCmd.resize(1000);
+  const cEdChara before = damaged;
+  PickEntry(kCommonCharas, 2);
+  Command(Palettes().Palette(kCommonCharas), kCmdEdit);
+  EXPECT_EQ(OpenEntryEditor(), nullptr);
+  EXPECT_EQ(prompt.LastText(), "リストの数が編集できる上限を超えているため、このデータは開けません！");
+  EXPECT_TRUE(Stage().Window()->isEnabled());
+
+  // "→" onto it stores the entry shown and stays on it.
+  OpenFromPalette(kCommonCharas, 1);
+  Type(Page(0), kIdEntryName, "主");
+  Click(Page(0), kIdEntryNext);
+  EXPECT_EQ(qobject_cast<QLabel*>(Page(0).Item(kIdEntryNumber))->text().toStdString(), "No.1");
+  EXPECT_EQ(ToUtf8(CommonPalette().m_vecCharaPlt[1].m_strName), "主");
+  Type(Page(0), kIdEntryName, "主人");
+  PressOk();
+  EXPECT_EQ(ToUtf8(CommonPalette().m_vecCharaPlt[1].m_strName), "主人") << "the editor still wrote back to entry 1";
+  EXPECT_TRUE(CommonPalette().m_vecCharaPlt[2] == before);
+}
+
 TEST_F(EntryEditors, TheListsBesideAGraphicAndAnAnimationSetHandBackThePickedRowOnlyOnOk) {
   OpenFromPalette(kCommonBlocks, 1);
   const std::string number = Shown(Page(0), kIdGraphicNo);

@@ -25,6 +25,10 @@ bool EditEntryAt(cDialogManager& manager, QWidget* owner, const cEditPlace& plac
     ErrorBoxText(SysText("編集するデータがありません！"));
     return false;
   }
+  if (!FitsItsEditor(*EditedEntry<Entry>())) {
+    TellEntryOverLimit();
+    return false;
+  }
   if (!closed) {
     cEntryEditor<Entry> editor(manager, owner, place, true);
     g_pOpenEditor = &editor;

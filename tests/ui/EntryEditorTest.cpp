@@ -285,6 +285,45 @@ TEST_F(EntryEditors, ADamagedEntryOpensClampedAndOkWritesWhatLoadingWouldAccept)
   EXPECT_TRUE(LoadedCommonPalette().m_vecCharaPlt.at(2) == expected) << "loading changes nothing else of it";
 }
 
+TEST_F(EntryEditors, TheRightButtonOfAPaletteAndTheParameterToolOnTheStageOpenTheEditors) {
+  constexpr int kParameterTool = 40087;
+  cPaletteWindow& palette = Palettes().Palette(kCommonBlocks);
+  Command(palette, kCmdRightEdits);
+  Click(palette, QPoint(16, 16), Qt::RightButton);
+  EXPECT_EQ(OpenEntryEditor(), nullptr) << "entry 0 is never opened";
+  Click(palette, QPoint(32 + 16, 16), Qt::RightButton);
+  ASSERT_NE(OpenEntryEditor(), nullptr);
+  EXPECT_EQ(qobject_cast<QLabel*>(Page(0).Item(kIdEntryNumber))->text().toStdString(), "No.1");
+  PressCancel();
+
+  // An item under the block layer: the tool looks through the layers,
+  // opens the item's own editor and comes back to the blocks.
+  cStage& stage = EditStage();
+  const size_t index = static_cast<size_t>(stage.CellIndex(2, 2));
+  stage.m_vecItemCell.at(index) = CommonPalette().m_vecItemPlt.at(1);
+  ASSERT_TRUE(IsOccupied(stage.m_vecItemCell[index]));
+  const std::vector<cEdItem> cells = stage.m_vecItemCell;
+  ASSERT_EQ(StageEdit().m_iLayer, kKindBlock);
+  Command(palette, kParameterTool);
+  Stage().ScrollTo(0, 0);
+  bool opened = false;
+  WhenModal([&opened](QWidget*) {
+    opened = OpenEntryEditor() != nullptr;
+    if (!opened) return;
+    EXPECT_EQ(Editor().Window()->windowTitle().toStdString(), "アイテムデータ");
+    Click(Page(0), 1024);  // the name stays its own once the box is cleared
+    Type(Page(0), kIdEntryName, "宝");
+    PressOk();
+  });
+  Click(Stage(), QPoint(2 * 32 + 16, 2 * 32 + 16));
+  ASSERT_TRUE(opened);
+  EXPECT_EQ(StageEdit().m_iLayer, kKindBlock);
+  for (size_t i = 0; i < cells.size(); ++i) {
+    if (i == index) EXPECT_EQ(ToUtf8(stage.m_vecItemCell[i].m_strName), "宝");
+    else EXPECT_TRUE(stage.m_vecItemCell[i] == cells[i]) << i;
+  }
+}
+
 TEST_F(EntryEditors, AnEntryWithListsBeyondItsEditorIsNotOpenedAndStaysAsItIs) {
   cEdChara& damaged = CommonPalette().m_vecCharaPlt.at(2);
   damaged.m_vFlow.assign(1, cEdFlow());

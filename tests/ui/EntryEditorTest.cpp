@@ -324,6 +324,21 @@ TEST_F(EntryEditors, TheRightButtonOfAPaletteAndTheParameterToolOnTheStageOpenTh
   }
 }
 
+TEST_F(EntryEditors, TheIdleStepDrawsTheEntrysPictureAnewAfterItsGraphicChanged) {
+  OpenFromPalette(kCommonBlocks, 1);
+  QWidget* picture = Page(0).Item(kIdGraphicPreview);
+  const std::string number = Shown(Page(0), kIdGraphicNo);
+  app->IdleStep();
+  const QImage first = picture->grab().toImage();
+  Type(Page(0), kIdGraphicNo, number == "5" ? "6" : "5");
+  app->IdleStep();
+  EXPECT_NE(picture->grab().toImage(), first);
+  Type(Page(0), kIdGraphicNo, number.c_str());
+  app->IdleStep();
+  EXPECT_EQ(picture->grab().toImage(), first) << "the same graphic draws the same picture";
+  PressCancel();
+}
+
 TEST_F(EntryEditors, AnEntryWithListsBeyondItsEditorIsNotOpenedAndStaysAsItIs) {
   cEdChara& damaged = CommonPalette().m_vecCharaPlt.at(2);
   damaged.m_vFlow.assign(1, cEdFlow());

@@ -339,6 +339,21 @@ TEST_F(EntryEditors, TheIdleStepDrawsTheEntrysPictureAnewAfterItsGraphicChanged)
   PressCancel();
 }
 
+TEST_F(EntryEditors, AnItemsCommandsComeFromTheItemSelectorAndCancellingAnInsertLeavesNoRow) {
+  constexpr int kItemWait = kCmdGameWait - kItemKindOffset;
+  OpenFromPalette(kCommonItems, 1);
+  ShowPage(1);
+  const int before = ListRows(Front(), kIdCmdList).size();
+  InsertCommand(kItemWait, [](cDialog& d) { Click(d, kIdCancel); });
+  EXPECT_EQ(ListRows(Front(), kIdCmdList).size(), before) << "the new row goes again";
+  InsertCommand(kItemWait, [](cDialog& d) { Click(d, kIdOk); });
+  ASSERT_EQ(ListRows(Front(), kIdCmdList).size(), before + 1);
+  PressOk();
+  const cEdCmd& stored = CommonPalette().m_vecItemPlt.at(1).m_vCmd.at(0);
+  EXPECT_EQ(stored.m_bItemCmd, 1);
+  EXPECT_EQ(stored.m_nKind, kItemWait);
+}
+
 TEST_F(EntryEditors, AnEntryWithListsBeyondItsEditorIsNotOpenedAndStaysAsItIs) {
   cEdChara& damaged = CommonPalette().m_vecCharaPlt.at(2);
   damaged.m_vFlow.assign(1, cEdFlow());

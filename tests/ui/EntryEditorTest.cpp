@@ -354,6 +354,28 @@ TEST_F(EntryEditors, AnItemsCommandsComeFromTheItemSelectorAndCancellingAnInsert
   EXPECT_EQ(stored.m_nKind, kItemWait);
 }
 
+TEST_F(EntryEditors, ADefaultEntryIsEditedAloneWithNoPaletteToGoAlong) {
+  Save();
+  const std::vector<uint8_t> saved = Files();
+  const std::vector<cEdBlock> brush = StageEdit().m_vecBrushBlock;
+  bool opened = false;
+  WhenModal([&opened](QWidget*) {
+    opened = OpenEntryEditor() != nullptr;
+    if (!opened) return;
+    EXPECT_FALSE(Enabled(Page(0), kIdEntryPrev));
+    EXPECT_FALSE(Enabled(Page(0), kIdEntryNext));
+    EXPECT_EQ(Rows(Page(0), kIdInheritSrc).size(), 1) << "a default entry inherits from nothing";
+    Type(Page(0), kIdEntryName, "新キャラ");
+    PressOk();
+  });
+  EXPECT_TRUE(EditDefaultEntry(app->Manager(), Stage().Window(), kKindChara));
+  ASSERT_TRUE(opened);
+  EXPECT_EQ(ToUtf8(ProjectOption().m_DefChara.m_strName), "新キャラ");
+  EXPECT_TRUE(StageEdit().m_vecBrushBlock == brush) << "the brush stays as it was";
+  Save();
+  EXPECT_EQ(Files(), saved) << "neither the stage nor the common palette changed";
+}
+
 TEST_F(EntryEditors, AnEntryWithListsBeyondItsEditorIsNotOpenedAndStaysAsItIs) {
   cEdChara& damaged = CommonPalette().m_vecCharaPlt.at(2);
   damaged.m_vFlow.assign(1, cEdFlow());

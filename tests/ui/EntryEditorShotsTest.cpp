@@ -80,12 +80,28 @@ TEST_F(EntryEditorShots, EveryPageOfTheThreeEditors) {
   CommonPalette().m_vecCharaPlt.at(2).m_vFlow = SomeFlows();
   OpenFromPalette(kCommonCharas, 2);
   ShootPages("chara");
+  ListAt(Front(), kIdFlowList)->setCurrentRow(1);  // 死亡した時, with its note
+  Shoot("201-flow-death");
   ShowPage(1);
   InModal([this](cDialog& d) {
     Shoot("200-animeset-list");
     Click(d, kIdCancel);
   });
   Click(Page(1), kIdAnimeSetPick);
+  PressCancel();
+
+  // A stage entry that takes its name and its flows from the common one.
+  cEdChara& inheriting = EditStage().m_vecCharaPlt.at(1);
+  inheriting.m_nInheritSrc = kInheritCommon;
+  inheriting.m_nInheritNo = 2;
+  inheriting.m_bbInherit.assign(kCharaInheritGroups, 0);
+  inheriting.m_bbInherit[0] = inheriting.m_bbInherit[36] = 1;
+  inheriting.ApplyInherit();
+  OpenFromPalette({1, kKindChara}, 1);
+  ShowPage(0);
+  Shoot("140-stage-inheriting");
+  ShowPage(3);
+  Shoot("201-stage-inheriting");
   PressCancel();
 
   OpenFromPalette(kStageItems, 1);

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QCloseEvent>
 #include <QMouseEvent>
 #include <gtest/gtest.h>
 
@@ -46,6 +47,15 @@ TEST_F(EntryEditors, APlayerGivenAFlowIsSavedWithThatFlowAndNothingElseChanged) 
   InsertCommand(kCmdWait, [](cDialog& d) { Click(d, kIdOk); });
   EXPECT_EQ(ListRows(Front(), kIdFlowList).size(), 1);
   EXPECT_TRUE(ListRows(Front(), kIdFlowList).front().startsWith(QString::fromUtf8("×2 ")));
+  // The desktop's close box of the stage window asks nothing and ends
+  // nothing while the editor is open.
+  StageEdit().m_bStageChanged = 1;  // what would ask to save first
+  const size_t asked = prompt.Shown().size();
+  QCloseEvent close;
+  QApplication::sendEvent(Stage().Window(), &close);
+  EXPECT_EQ(prompt.Shown().size(), asked);
+  ASSERT_NE(OpenEntryEditor(), nullptr);
+  EXPECT_TRUE(Stage().IsOpen());
   PressOk();
   EXPECT_EQ(OpenEntryEditor(), nullptr);
   EXPECT_TRUE(Stage().Window()->isEnabled());

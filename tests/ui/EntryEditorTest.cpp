@@ -419,8 +419,13 @@ TEST_F(EntryEditors, TheListsBesideAGraphicAndAnAnimationSetHandBackThePickedRow
   Click(Page(0), kIdGraphicPick);
   EXPECT_EQ(Shown(Page(0), kIdGraphicNo), number);
   InModal([](cDialog& d) {
-    static_cast<cObjectListDialog&>(d).Pick(37);
-    Click(d, kIdOk);
+    QWidget* sheet = d.Item(1003);
+    const QPoint at(2 * 32 + 16, 7 * 32 + 16);  // the third column's eighth picture
+    ASSERT_EQ(cObjectListDialog::NumberAt(at.x(), at.y()), 37);
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
+      QMouseEvent click(type, at, sheet->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(sheet, &click);  // a double click closes as OK
+    }
   });
   Click(Page(0), kIdGraphicPick);
   EXPECT_EQ(Shown(Page(0), kIdGraphicNo), "37");

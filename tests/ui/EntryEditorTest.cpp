@@ -229,11 +229,11 @@ TEST_F(EntryEditors, TheFlowPageKeepsItsTriggerRulesAndItsListsTheirOwnClipboard
   // command list's.
   const QStringList commands = ListRows(page, kIdCmdList);
   ASSERT_FALSE(commands.isEmpty());
-  ListKey<cEdCmd>(page, kIdCmdList, 0, Qt::Key_C);
+  ListKey(page, kIdCmdList, 0, Qt::Key_C);
   Click(page, kIdFlowInsert);
   EXPECT_EQ(ListRows(page, kIdCmdList).size(), 0) << "the new flow is selected";
   InsertCommand(kCmdWait, [](cDialog& d) { Click(d, kIdOk); });
-  ListKey<cEdCmd>(page, kIdCmdList, 0, Qt::Key_V);
+  ListKey(page, kIdCmdList, 0, Qt::Key_V);
   ASSERT_EQ(ListRows(page, kIdCmdList).size(), 2);
   EXPECT_EQ(ListRows(page, kIdCmdList).front(), commands.front());
   EXPECT_TRUE(ListRows(page, kIdFlowList).front().startsWith(QString::fromUtf8("×2 "))) << "its row counts it at once";
@@ -255,12 +255,12 @@ TEST_F(EntryEditors, ABlockRefusesAPasteOfADistanceConditionAsAWhole) {
   cDialog& page = Page(0);
   const QStringList rows = ListRows(page, kIdAppearList);
   ASSERT_EQ(rows.size(), 2);
-  ListKey<cEdCond>(page, kIdAppearList, 1, Qt::Key_C);
-  ListKey<cEdCond>(page, kIdAppearList, 0, Qt::Key_V);
+  ListKey(page, kIdAppearList, 1, Qt::Key_C);
+  ListKey(page, kIdAppearList, 0, Qt::Key_V);
   EXPECT_EQ(prompt.LastText(), "「距離条件」の貼り付けはできません！");
   EXPECT_EQ(ListRows(page, kIdAppearList), rows);
-  ListKey<cEdCond>(page, kIdAppearList, 0, Qt::Key_C);
-  ListKey<cEdCond>(page, kIdAppearList, 0, Qt::Key_V);
+  ListKey(page, kIdAppearList, 0, Qt::Key_C);
+  ListKey(page, kIdAppearList, 0, Qt::Key_V);
   EXPECT_EQ(ListRows(page, kIdAppearList).size(), 3);
   PressCancel();
 }

@@ -77,7 +77,9 @@ class cRecordListControl : public cListControl<Element> {
 };
 
 // Binds the list of `ids` that the dialog's table made to `edit`; for the
-// dialog's BindOwnControls. Null when the window has no such list.
+// dialog's BindOwnControls. A modeless window gets the list's keys as
+// accelerators, a modal one hands them over itself. Null when the window
+// has no such list.
 template <class Element>
 cRecordListControl<Element>* BindRecordList(cDialog& dialog, const cRecordListIds& ids,
                                             cRecordListEdit<Element>& edit) {
@@ -86,6 +88,7 @@ cRecordListControl<Element>* BindRecordList(cDialog& dialog, const cRecordListId
   auto control = std::make_unique<cRecordListControl<Element>>(dialog, widget, ids, edit);
   cRecordListControl<Element>* raw = control.get();
   dialog.AddControl(std::move(control));
+  if (dialog.IsModeless()) dialog.SetAccel(ids.list, raw->Keys());
   return raw;
 }
 

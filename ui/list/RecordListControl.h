@@ -19,6 +19,7 @@ struct cRecordListIds {
   int remove = 0;  // "削除"
   int listNumber = 1;
   int shownChars = 0;  // the list's width in characters; 0 has room for a condition's or command's text
+  int shownRows = 0;   // the list's height in rows; 0 for the usual height
 };
 
 // The rows that show a record list in a dialog's table: the list with its

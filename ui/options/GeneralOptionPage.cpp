@@ -1,4 +1,3 @@
-#include "core/OptionLists.h"
 #include "stage/EntryEditing.h"
 #include "ui/controls/Button.h"
 #include "ui/controls/ComboRows.h"
@@ -13,12 +12,6 @@ namespace {
 
 constexpr int kGamePathLimit = 259;
 constexpr int kMostBackupHours = 999;
-
-cComboRows OldStageRows() {
-  cComboRows rows;
-  for (const std::string& text : OptionList(eOptionList::OldStageHandling)) rows.texts.emplace_back(SysText(text.c_str()));
-  return rows;
-}
 
 // The buttons that edit what a new palette entry holds.
 struct cDefaultEntryButton {
@@ -70,7 +63,7 @@ class cGeneralOptionPage : public cDialog {
                   }),
         FormGroup("ヴェルモラバージョンアップ後の「ステージの上書き保存」",
                   {
-                      {nullptr, ComboOf(kIdOldStage, &work.m_nOldStage, OldStageRows())},
+                      {nullptr, ComboOf(kIdOldStage, &work.m_nOldStage, OptionRows(eOptionList::OldStageHandling))},
                       {nullptr, cStaticDesc{0, "※「stg4」フォルダにステージを保存していないとこの設定は機能しません。"}},
                   }),
         FormGroup("バックアップ",

@@ -6,6 +6,7 @@
 #include "core/EditConfig.h"
 #include "core/Log.h"
 #include "core/Prompt.h"
+#include "core/SafeWrite.h"
 #include "core/SystemText.h"
 #include "platform/WholeFile.h"
 #include "graphics/BitmapFile.h"
@@ -89,7 +90,8 @@ bool WritePicture(const std::string& output, const cIndexedPicture& picture, con
   std::vector<uint8_t> bytes(picture.headers, picture.headers + kBitmapHeadersSize);
   for (const cRgbQuad& q : table) bytes.insert(bytes.end(), {q.blue, q.green, q.red, q.reserved});
   bytes.insert(bytes.end(), picture.rows, picture.rows + picture.rowBytes * static_cast<size_t>(picture.height));
-  return WriteWholeFile(output, bytes);
+  return WriteFileSafely(output, [&bytes](const std::string& to) { return WriteWholeFile(to, bytes); },
+                         PlacesBeside(output));
 }
 
 }  // namespace

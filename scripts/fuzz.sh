@@ -56,15 +56,17 @@ for program in build-fuzz/fuzz/fuzz_*; do
   [ -x "$program" ] || continue
   target="${program##*/fuzz_}"
   if [ -n "${TARGETS:-}" ] && [[ " $TARGETS " != *" $target "* ]]; then continue; fi
-  corpus="${CORPUS:-$WORK/corpus}/$target"
+  corpus="$(realpath -m "${CORPUS:-$WORK/corpus}")/$target"
   mkdir -p "$corpus"
   if [ "$target" = database ]; then seed_database "$corpus"; fi
   for file in $(seed_files "$target") "$ROOT"/fuzz/seeds/"$target"/* "$ROOT"/tests/data/fuzz/"$target"/*; do
     [ -f "$file" ] && cp "$file" "$corpus/seed-$(basename "$file")"
   done
   log="$WORK/$target.log"
-  if (cd fuzz-findings && "$ROOT/$program" -max_total_time="$SECONDS_EACH" -rss_limit_mb=2048 \
-      -malloc_limit_mb=512 -timeout=10 -print_final_stats=1 "$corpus") >"$log" 2>&1; then
+  # The targets work inside a project folder of their own: the findings'
+  # place is given whole.
+  if "$ROOT/$program" -max_total_time="$SECONDS_EACH" -rss_limit_mb=2048 -malloc_limit_mb=512 -timeout=10 \
+      -print_final_stats=1 -artifact_prefix="$ROOT/fuzz-findings/$target-" "$corpus" >"$log" 2>&1; then
     echo "fuzz $target: ok, $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") runs"
   else
     failed=$((failed + 1))

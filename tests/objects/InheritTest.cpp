@@ -74,6 +74,18 @@ TEST_F(InheritTest, SourceGoneTurnsInheritanceOff) {
   EXPECT_EQ(0, chara.m_nInheritSrc);
   EXPECT_EQ(0, chara.m_nInheritNo);
 
+  // A damaged file can hold a number before the list as well.
+  chara.m_nInheritSrc = kInheritCommon;
+  chara.m_nInheritNo = -3;
+  chara.m_strName = "own";
+  chara.ApplyInherit();
+  EXPECT_EQ(0, chara.m_nInheritSrc);
+  EXPECT_EQ("own", chara.m_strName);
+  chara.m_nInheritSrc = kInheritCommon;
+  chara.CheckRefs();
+  EXPECT_EQ(0, chara.m_nInheritSrc);
+  EXPECT_EQ(0, chara.m_nInheritNo);
+
   SetInherit(chara, kInheritCommon, 3, Flags({0}));
   EXPECT_EQ(0, chara.m_nInheritSrc);
   EXPECT_EQ(0, chara.m_nInheritNo);

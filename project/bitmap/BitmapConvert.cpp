@@ -49,7 +49,9 @@ eConvertResult ReadPicture(const std::string& input, cWholeFile& file, cIndexedP
   picture.table = file.data.get() + kBitmapHeadersSize;
   picture.rows = file.data.get() + kRowsStart;
   picture.width = header.width;
-  picture.height = header.height > 0 ? header.height : 0;
+  // A picture without columns has no rows to convert, however many its
+  // header claims.
+  picture.height = header.height > 0 && header.width > 0 ? header.height : 0;
   picture.rowBytes = ((static_cast<size_t>(header.width) * 8 + 31) & ~static_cast<size_t>(31)) / 8;
   if (picture.rowBytes * static_cast<size_t>(picture.height) > file.size - kRowsStart) {
     return eConvertResult::LoadFailed;

@@ -14,8 +14,7 @@ void ApplyInheritTo(T& entry, std::span<const cInheritGroup<T>> groups) {
   if (entry.m_nInheritNo == 0 || entry.m_nInheritSrc == kInheritNone) return;
   const std::vector<T>* list = SourceList(entry, entry.m_nInheritSrc);
   if (!list) return;
-  // The number is a signed field of the file: a damaged one may point
-  // before the list as well as past it.
+  // A damaged file may hold any number, below 0 too.
   if (entry.m_nInheritNo < 0 || entry.m_nInheritNo >= static_cast<int>(list->size())) {
     entry.m_nInheritSrc = kInheritNone;
     return;

@@ -151,6 +151,12 @@ bool FitForEditing(cEdItem& entry) {
 }
 
 template <class Entry>
+bool FitsItsEditor(const Entry& entry) {
+  Entry fitted = entry;
+  return !FitForEditing(fitted);
+}
+
+template <class Entry>
 void LoadEntryWork(cEntryWork<Entry>& work, const Entry& entry, const cEditPlace& place) {
   work.entry = entry;
   work.place = place;
@@ -194,6 +200,7 @@ int OfferedInheritSources(int target) {
 #define VELMORA_ENTRY_EDITING(Entry)                                        \
   template bool PointEditAt<Entry>(const cEditPlace&, Entry*);              \
   template Entry* EditedEntry<Entry>();                                     \
+  template bool FitsItsEditor(const Entry&);                                \
   template void LoadEntryWork(cEntryWork<Entry>&, const Entry&, const cEditPlace&); \
   template void SyncInheritFlags(cEntryWork<Entry>&);                       \
   template void InheritNow(cEntryWork<Entry>&);                             \

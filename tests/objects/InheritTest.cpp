@@ -74,10 +74,16 @@ TEST_F(InheritTest, SourceGoneTurnsInheritanceOff) {
   EXPECT_EQ(0, chara.m_nInheritSrc);
   EXPECT_EQ(0, chara.m_nInheritNo);
 
-  // A damaged file can hold a number before the list as well.
+  SetInherit(chara, kInheritCommon, 3, Flags({0}));
+  EXPECT_EQ(0, chara.m_nInheritSrc);
+  EXPECT_EQ(0, chara.m_nInheritNo);
+  EXPECT_EQ(Flags({}), chara.m_bbInherit);
+
+  // A number below 1 that isn't 0 names no entry either.
+  chara.m_strName = "own";
   chara.m_nInheritSrc = kInheritCommon;
   chara.m_nInheritNo = -3;
-  chara.m_strName = "own";
+  chara.m_bbInherit = Flags({0});
   chara.ApplyInherit();
   EXPECT_EQ(0, chara.m_nInheritSrc);
   EXPECT_EQ("own", chara.m_strName);
@@ -85,11 +91,6 @@ TEST_F(InheritTest, SourceGoneTurnsInheritanceOff) {
   chara.CheckRefs();
   EXPECT_EQ(0, chara.m_nInheritSrc);
   EXPECT_EQ(0, chara.m_nInheritNo);
-
-  SetInherit(chara, kInheritCommon, 3, Flags({0}));
-  EXPECT_EQ(0, chara.m_nInheritSrc);
-  EXPECT_EQ(0, chara.m_nInheritNo);
-  EXPECT_EQ(Flags({}), chara.m_bbInherit);
 }
 
 TEST_F(InheritTest, NumberZeroOrSourceZeroKeepsFlagsAndCopiesNothing) {

@@ -19,8 +19,11 @@
 #include "ui/framework/QtText.h"
 #include "ui/framework/ToolStrip.h"
 #include "ui/framework/WindowFrame.h"
+#include "ui/bitmaptool/BitmapToolDialog.h"
 #include "ui/database/DatabaseSheet.h"
+#include "ui/options/ProjectOptionSheet.h"
 #include "ui/stage/NewStageDialog.h"
+#include "ui/stagesettings/StageSettingsSheet.h"
 #include "ui/system/SystemSheet.h"
 #include "ui/worldmap/WorldMapEntry.h"
 
@@ -99,7 +102,10 @@ void cStageWindow::OpenPalettes() {
     });
   }
   InstallSystemWindow(*this);
+  InstallStageSettings(*this);
   InstallWorldMapEntry(*this);
+  InstallProjectOptions(*this);
+  InstallBitmapTool(*this);
 }
 
 bool cStageWindow::IsChecked(const cStageCommand& command) const {

@@ -6,6 +6,7 @@
 
 #include "core/Log.h"
 #include "core/ProjectPaths.h"
+#include "core/SafeWrite.h"
 #include "core/SaveData.h"
 #include "core/SystemText.h"
 #include "platform/FileSystem.h"
@@ -46,8 +47,15 @@ bool CreateDefaultData(OwnerWindow owner) {
                                 SysText("データが存在しません！デフォルトデータを作成しますか？\n"),
                                 eButtons::YesNo, eIcon::Question);
   if (answer != eAnswer::Yes) return false;
-  if (CopyTree(WithoutTrailingBackslash(source), data)) return true;
-  DeleteFolder(data);
+  // Copied under another name and renamed when whole: a folder left half
+  // copied by a kill would pass for the project's data at the next start.
+  const std::string copying = WithoutTrailingBackslash(data) + ".new";
+  if (IsDirectory(copying)) DeleteFolder(copying);
+  if (CopyTree(WithoutTrailingBackslash(source), copying) &&
+      MoveFileReplacing(copying, WithoutTrailingBackslash(data))) {
+    return true;
+  }
+  DeleteFolder(copying);
   return false;
 }
 
@@ -76,7 +84,8 @@ void EnsureDefaultStage() {
   if (!FindVersioned(found, PathOf(ePath::DefaultDefaultStage), stageExt)) return;
   const std::string& dataPattern = PathOf(ePath::DefaultStage);
   std::string stem = dataPattern.substr(0, dataPattern.find_last_of('.')) + "." + stageExt;
-  CopyFileTo(found, stem + "_" + found.substr(found.size() - 3), false);
+  const std::string target = stem + "_" + found.substr(found.size() - 3);
+  WriteFileSafely(target, [&found](const std::string& to) { return CopyFileTo(found, to, true); }, PlacesBeside(target));
 }
 
 bool DeleteFolder(const std::string& path) {

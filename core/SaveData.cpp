@@ -9,6 +9,7 @@
 #include <type_traits>
 #include <typeindex>
 
+#include "core/SafeWrite.h"
 #include "platform/TextCodec.h"
 
 namespace velmora {
@@ -376,6 +377,11 @@ int cSaveData::LoadWholeFile(const std::string& name) {
 }
 
 int cSaveData::SaveFile(const std::string& name) {
+  if (g_bNoSave) return 0;
+  return SaveRecordSafely(*this, name) ? 1 : 0;
+}
+
+int cSaveData::WriteFileInPlace(const std::string& name) {
   if (g_bNoSave) return 0;
   DataFilePtr file = OpenWrite(name);
   if (!file) return 0;

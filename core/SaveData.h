@@ -49,6 +49,7 @@ struct cSaveString {
 #define VSTRING(member) &(member), #member
 
 class cSaveData;
+struct cSafeWritePlaces;
 
 // Walks what the field lists do not know: nested vectors and records held
 // by pointer. The inspector and the tests of nested records use it.
@@ -112,6 +113,8 @@ class cSaveData {
   // before the record did: the record then holds part of the file and is
   // only fit to be thrown away.
   int LoadWholeFile(const std::string& name);
+  // Crash-safe: the file is written beside its place and renamed over it
+  // (core/SafeWrite.h), so a kill leaves the old file or the new one.
   int SaveFile(const std::string& name);
   void Reset();
   void CopyFrom(const cSaveData& other);
@@ -136,6 +139,11 @@ class cSaveData {
   void AddString(std::string* text, const char* name = "");
 
  private:
+  // Empties the file and writes the record into it; only the safe write
+  // calls this, on its fresh file.
+  int WriteFileInPlace(const std::string& name);
+  friend bool SaveRecordSafely(cSaveData& record, const std::string& path, const cSafeWritePlaces& places);
+
   template <class T, int N>
   void AddScalar(T* data, int count, const char* name) {
     static_assert(std::is_trivially_copyable_v<T>, "stored fields are plain memory");

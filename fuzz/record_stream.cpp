@@ -4,17 +4,12 @@
 #include <cstring>
 
 #include "core/SaveData.h"
+#include "support/FuzzProject.h"
 #include "../tests/support/TestRecords.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace velmora;
-  static struct cQuietStops : cAppControl {
-    void PostCloseRequest() override {}
-    void DestroyMainWindow() override {}
-    void Beep() override {}
-    [[noreturn]] void EndProcess(int) override { __builtin_trap(); }
-  } quiet;
-  SetAppControl(&quiet);
+  fuzz::EnterProject();
   if (size < 4) return 0;
   uint32_t version;
   std::memcpy(&version, data, 4);

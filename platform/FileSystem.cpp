@@ -86,6 +86,11 @@ bool FileExists(const std::string& stored) {
   return StatHost(HostPath(stored), st) && S_ISREG(st.st_mode);
 }
 
+bool IsDeviceOrPipe(const std::string& stored) {
+  struct stat st;
+  return StatHost(HostPath(stored), st) && !S_ISREG(st.st_mode) && !S_ISDIR(st.st_mode);
+}
+
 bool MakeDirectory(const std::string& stored) { return ::mkdir(HostPath(stored).c_str(), 0755) == 0; }
 
 bool RemoveEmptyDirectory(const std::string& stored) { return ::rmdir(HostPath(stored).c_str()) == 0; }
@@ -98,6 +103,10 @@ bool MoveFileReplacing(const std::string& from, const std::string& to) {
 
 bool CopyFileTo(const std::string& from, const std::string& to, bool overwrite) {
   return CopyHostFile(HostPath(from), HostPath(to), overwrite);
+}
+
+bool LinkFileTo(const std::string& from, const std::string& to) {
+  return ::link(HostPath(from).c_str(), HostPath(to).c_str()) == 0;
 }
 
 bool CopyTree(const std::string& from, const std::string& to) {

@@ -17,6 +17,7 @@ struct cDirEntry {
 std::FILE* OpenFile(const std::string& stored, const char* mode);
 bool IsDirectory(const std::string& stored);
 bool FileExists(const std::string& stored);  // a regular file
+bool IsDeviceOrPipe(const std::string& stored);  // there, and neither a regular file nor a folder
 bool MakeDirectory(const std::string& stored);
 bool RemoveEmptyDirectory(const std::string& stored);
 bool RemoveFile(const std::string& stored);
@@ -24,6 +25,9 @@ bool RemoveFile(const std::string& stored);
 bool MoveFileReplacing(const std::string& from, const std::string& to);
 // With `overwrite` false an existing target is left alone and the call fails.
 bool CopyFileTo(const std::string& from, const std::string& to, bool overwrite);
+// A second name for the same file (a hard link): free, where a copy of a
+// large stage would take seconds. Fails across file systems.
+bool LinkFileTo(const std::string& from, const std::string& to);
 // Copies a folder with all it holds to `to`, which must not exist yet.
 bool CopyTree(const std::string& from, const std::string& to);
 std::vector<cDirEntry> ListDirectory(const std::string& stored);

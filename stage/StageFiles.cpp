@@ -106,12 +106,12 @@ void ShowProgress(const char* caption, const char* text) { Prompt().ShowMessageW
 
 void ReportSaveFailure(const std::string& path) { ErrorBox(SysText("ステージファイル %s の保存に失敗しました！"), path.c_str()); }
 
-// A kill at any moment must leave the stage file whole or its backup in the
-// work folder, where the next load finds it.
+// A kill at any moment leaves the stage file old or new and whole; the
+// backup in the work folder stands while the file is replaced, for a file
+// that something else cut short.
 int WriteStageSafely(const std::string& path) {
   const std::string backup = BackupPathOf(path);
-  auto write = [](const std::string& to) { return EditStage().SaveFile(to) != 0; };
-  if (WriteFileSafely(path, write, {backup + kFreshSuffix, backup})) return 1;
+  if (SaveRecordSafely(EditStage(), path, {backup + kFreshSuffix, backup})) return 1;
   ReportSaveFailure(path);
   return 0;
 }
@@ -301,10 +301,13 @@ int LoadStagePalette() {
 int SaveStagePalette() {
   std::string path;
   if (!Prompt().SaveFile(nullptr, PalettePrompt("保存先のファイルの選択"), path)) return 0;
-  DataFilePtr file = OpenWrite(path);
-  if (!file) return 0;
-  WritePaletteLists(EditStage().Palette(), *file);
-  return CloseData(file) ? 1 : 0;
+  auto write = [](const std::string& to) {
+    DataFilePtr file = OpenWrite(to);
+    if (!file) return false;
+    WritePaletteLists(EditStage().Palette(), *file);
+    return CloseData(file);
+  };
+  return WriteFileSafely(path, write, PlacesBeside(path)) ? 1 : 0;
 }
 
 // The three lists are read beside the stage's own and take their place

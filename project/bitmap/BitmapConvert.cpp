@@ -6,6 +6,7 @@
 #include "core/EditConfig.h"
 #include "core/Log.h"
 #include "core/Prompt.h"
+#include "core/SafeWrite.h"
 #include "core/SystemText.h"
 #include "platform/WholeFile.h"
 #include "graphics/BitmapFile.h"
@@ -48,7 +49,9 @@ eConvertResult ReadPicture(const std::string& input, cWholeFile& file, cIndexedP
   picture.table = file.data.get() + kBitmapHeadersSize;
   picture.rows = file.data.get() + kRowsStart;
   picture.width = header.width;
-  picture.height = header.height > 0 ? header.height : 0;
+  // A picture without columns has no rows to convert, however many its
+  // header claims.
+  picture.height = header.height > 0 && header.width > 0 ? header.height : 0;
   picture.rowBytes = ((static_cast<size_t>(header.width) * 8 + 31) & ~static_cast<size_t>(31)) / 8;
   if (picture.rowBytes * static_cast<size_t>(picture.height) > file.size - kRowsStart) {
     return eConvertResult::LoadFailed;
@@ -89,7 +92,8 @@ bool WritePicture(const std::string& output, const cIndexedPicture& picture, con
   std::vector<uint8_t> bytes(picture.headers, picture.headers + kBitmapHeadersSize);
   for (const cRgbQuad& q : table) bytes.insert(bytes.end(), {q.blue, q.green, q.red, q.reserved});
   bytes.insert(bytes.end(), picture.rows, picture.rows + picture.rowBytes * static_cast<size_t>(picture.height));
-  return WriteWholeFile(output, bytes);
+  return WriteFileSafely(output, [&bytes](const std::string& to) { return WriteWholeFile(to, bytes); },
+                         PlacesBeside(output));
 }
 
 }  // namespace

@@ -1,4 +1,6 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "core/SafeWrite.h"
 #include "platform/FileSystem.h"
@@ -48,6 +50,42 @@ TEST_F(SafeWrite, AWriteThatFailsLeavesTheOldFileAsItWas) {
   EXPECT_FALSE(WriteFileSafely("map.dat", Writing("new"), PlacesBeside("missing\\map.dat")))
       << "no room for the new file: nothing moves";
   EXPECT_EQ(ReadText("map.dat"), "old");
+}
+
+TEST_F(SafeWrite, ABackupLeftByAKilledSaveDoesNotStandInTheWay) {
+  MakeDirectory("work");
+  WriteText("work/map.dat", "left by a killed save");
+  ASSERT_TRUE(WriteFileSafely("map.dat", Writing("new"), {"work\\map.dat.new", "work\\map.dat"}));
+  EXPECT_EQ(ReadText("map.dat"), "new");
+  EXPECT_FALSE(FileExists("work\\map.dat"));
+}
+
+TEST_F(SafeWrite, APipeOrDeviceIsWrittenThroughAndNeverReplacedByAFile) {
+  ASSERT_EQ(::mkfifo("pipe", 0600), 0);
+  std::string writtenTo;
+  auto noting = [&writtenTo](const std::string& to) {
+    writtenTo = to;  // opening the pipe would wait for a reader
+    return true;
+  };
+  EXPECT_TRUE(WriteFileSafely("pipe", noting, PlacesBeside("pipe")));
+  EXPECT_EQ(writtenTo, "pipe");
+  struct stat pipe {};
+  ASSERT_EQ(::stat("pipe", &pipe), 0);
+  EXPECT_TRUE(S_ISFIFO(pipe.st_mode));
+}
+
+// /dev/shm is a file system of its own on most machines: a rename from
+// there fails and the copy beside the target has to take its place.
+TEST_F(SafeWrite, AFreshFileOnAnotherFileSystemIsCopiedBesideTheTarget) {
+  struct stat shm {}, here {};
+  if (::stat("/dev/shm", &shm) != 0 || ::stat(".", &here) != 0 || shm.st_dev == here.st_dev) {
+    GTEST_SKIP() << "no second file system at /dev/shm";
+  }
+  const std::string fresh = "/dev/shm/velmora-safewrite-" + std::to_string(::getpid());
+  ASSERT_TRUE(WriteFileSafely("map.dat", Writing("new"), {fresh, std::string()}));
+  EXPECT_EQ(ReadText("map.dat"), "new");
+  EXPECT_FALSE(FileExists(fresh));
+  EXPECT_FALSE(FileExists("map.dat.new"));
 }
 
 }  // namespace

@@ -33,6 +33,7 @@ enum eVarScope : int { kScopeCommon = 0, kScopeStage = 1 };
 
 // The stage record owns the stage names; it tells where they are.
 void SetStageVarList(const std::vector<cStageVar>* names);
+const std::vector<cStageVar>* StageVarList();
 
 // The name of variable `number` of a scope; "" when there is none.
 const std::string& VarName(int scope, int number);

@@ -55,18 +55,6 @@ void AddFieldUse(eUseKind kind, int number, cUse place, const char* label, std::
   uses.push_back(std::move(place));
 }
 
-// The stage's names stand as the installed stage names while it is walked.
-class cStageVarScope {
- public:
-  explicit cStageVarScope(const cStage& stage) : m_previous(StageVarList()) { SetStageVarList(&stage.m_vecStageVar); }
-  ~cStageVarScope() { SetStageVarList(m_previous); }
-  cStageVarScope(const cStageVarScope&) = delete;
-  cStageVarScope& operator=(const cStageVarScope&) = delete;
-
- private:
-  const std::vector<cStageVar>* m_previous;
-};
-
 void CollectWorldPage(const cEdWorldPage& page, const cUse& place, std::vector<cUse>& uses) {
   if (page.m_iCondVar >= 1) AddFieldUse(eUseKind::VarCommon, page.m_iCondVar, place, SysText("出現条件"), uses);
   if (page.m_bVariation && page.m_iVarVar >= 1) {
@@ -78,7 +66,7 @@ void CollectWorldPage(const cEdWorldPage& page, const cUse& place, std::vector<c
 
 void CollectStageRecordUses(cStage& stage, std::vector<cUse>& uses) {
   cStagePaletteScope palette(stage);
-  cStageVarScope names(stage);
+  cStageVarScope names(stage.m_vecStageVar);
   cUse settings;
   settings.area = eUseArea::StageSettings;
   if (stage.m_iBgm > 0) AddFieldUse(eUseKind::Bgm, stage.m_iBgm, settings, "BGM", uses);

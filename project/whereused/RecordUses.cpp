@@ -170,18 +170,6 @@ const cFieldRef<cEdItem> kItemFields[] = {
     {"効果音", [](const cEdItem& i, cTargets& t) { AddRow(t, eDbList::Sound, i.m_nGetSound); }},
 };
 
-// Summaries name objects as the entry's own editor does.
-class cContextScope {
- public:
-  explicit cContextScope(eObjectContext context) : m_previous(CurrentObjectContext()) { SetObjectContext(context); }
-  ~cContextScope() { SetObjectContext(m_previous); }
-  cContextScope(const cContextScope&) = delete;
-  cContextScope& operator=(const cContextScope&) = delete;
-
- private:
-  eObjectContext m_previous;
-};
-
 }  // namespace
 
 void CollectCmdUses(const cEdCmd& cmd, const cUse& place, std::vector<cUse>& uses) {
@@ -190,13 +178,13 @@ void CollectCmdUses(const cEdCmd& cmd, const cUse& place, std::vector<cUse>& use
 }
 
 void CollectEntryUses(const cEdBlock& block, const cUse& place, std::vector<cUse>& uses) {
-  cContextScope context(eObjectContext::BlockEditor);
+  cObjectContextScope context(eObjectContext::BlockEditor);
   CollectFields<cEdBlock>(block, kBlockFields, place, uses);
   CollectConds(block.m_vCond, place, uses);
 }
 
 void CollectEntryUses(const cEdChara& chara, const cUse& place, std::vector<cUse>& uses) {
-  cContextScope context(eObjectContext::CharaEditor);
+  cObjectContextScope context(eObjectContext::CharaEditor);
   CollectFields<cEdChara>(chara, kCharaFields, place, uses);
   CollectConds(chara.m_vCond, place, uses);
   cUse inFlow = place;
@@ -208,7 +196,7 @@ void CollectEntryUses(const cEdChara& chara, const cUse& place, std::vector<cUse
 }
 
 void CollectEntryUses(const cEdItem& item, const cUse& place, std::vector<cUse>& uses) {
-  cContextScope context(eObjectContext::ItemEditor);
+  cObjectContextScope context(eObjectContext::ItemEditor);
   CollectFields<cEdItem>(item, kItemFields, place, uses);
   CollectConds(item.m_vCond, place, uses);
   CollectCmds(item.m_vCmd, place, uses);

@@ -15,11 +15,11 @@ inline constexpr cColourRef kChangeMarkColour = Rgb(255, 0, 255);
 struct cViewOptions {
   bool hasStage = true;  // without one the view stays black
   cCellFrame cursor;
+  // Drawn in the frame step, under the cursor frame: what a drag will write.
+  std::function<void(cSurface& out)> preview;
   // Cells to point out, e.g. those that differ from another version of
   // the stage; framed under the cursor.
   std::vector<cCellFrame> marks;
-  // Drawn in the frame step, under the cursor frame: what a drag will write.
-  std::function<void(cSurface& out)> preview;
 };
 
 // Paints the part of the stage seen from the scroll position (top left

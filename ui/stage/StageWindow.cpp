@@ -22,6 +22,8 @@
 #include "ui/database/DatabaseSheet.h"
 #include "ui/stage/NewStageDialog.h"
 #include "ui/system/SystemSheet.h"
+#include "ui/stagediff/StageCompare.h"
+#include "ui/whereused/WhereUsedEntry.h"
 #include "ui/worldmap/WorldMapEntry.h"
 
 namespace velmora {
@@ -100,6 +102,8 @@ void cStageWindow::OpenPalettes() {
   }
   InstallSystemWindow(*this);
   InstallWorldMapEntry(*this);
+  InstallWhereUsedWindow(*this);
+  InstallStageCompare(*this);
 }
 
 bool cStageWindow::IsChecked(const cStageCommand& command) const {

@@ -12,6 +12,7 @@
 #include "objects/CondTables.h"
 #include "objects/GValInfo.h"
 #include "objects/Palette.h"
+#include "platform/HeapPolicy.h"
 #include "project/whereused/WhereUsedIndex.h"
 #include "stage/Stage.h"
 #include "ThreadClock.h"
@@ -97,6 +98,8 @@ void WriteProject() {
 }  // namespace
 
 int main() {
+  // As the editor runs.
+  KeepLayersInHeap();
   const std::filesystem::path folder = std::filesystem::temp_directory_path() / ("velmora-bench-whereused-" + std::to_string(::getpid()));
   std::filesystem::create_directories(folder);
   std::filesystem::current_path(folder);

@@ -1,7 +1,9 @@
 #include <QApplication>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <set>
@@ -13,6 +15,9 @@
 #include "stage/StageDiff.h"
 #include "stage/StageEdit.h"
 #include "stage/StageHooks.h"
+#include "ui/database/DatabaseSheet.h"
+#include "ui/database/DbListPage.h"
+#include "ui/list/ListControl.h"
 #include "ui/whereused/WhereUsedSearch.h"
 
 namespace velmora::testing {
@@ -21,6 +26,7 @@ namespace {
 constexpr int kWhereUsedMenu = 40901;
 constexpr int kCompareMenu = 40902;
 constexpr int kCompareClearMenu = 40903;
+constexpr int kDatabaseMenu = 40063;
 
 using cCells = std::set<std::pair<int, int>>;
 
@@ -115,6 +121,47 @@ TEST_F(ReviewToolsInTheEditor, SearchListsTheUsesAndOpensOneInItsStage) {
   QWidget* again = TopLevelTitled("使用箇所の検索");
   ASSERT_NE(again, nullptr) << "the window comes back with the stage's window";
   EXPECT_EQ(13, again->findChild<QListWidget*>()->count());
+}
+
+// Every character of the sample uses animation set 0; the database
+// window's list offers the search and shows the uses over itself.
+TEST_F(ReviewToolsInTheEditor, TheDatabaseListsPopupMenuListsTheUsesOfARow) {
+  Command(Stage(), kDatabaseMenu);
+  cDatabaseSheet* sheet = OpenDatabaseSheet();
+  ASSERT_NE(sheet, nullptr);
+  sheet->Window()->findChild<QTabWidget*>()->setCurrentIndex(0);
+  cDialog& page = *sheet->Page(0);
+  auto* control = page.FindControlOf<cListControl<cEdAnimeSet>>(kIdDbList);
+  ASSERT_NE(control, nullptr);
+  bool offered = false;
+  control->choosePopup = [&](const std::vector<cMenuItem>& menu, const QPoint&) {
+    offered = !menu.empty() && std::string(menu.back().text) == "使用箇所の検索";
+    return offered ? menu.back().command : 0;
+  };
+  int listed = -1;
+  bool canOpen = true;
+  // The window is modal: it is read and closed from the event loop it runs.
+  QTimer poll;
+  QObject::connect(&poll, &QTimer::timeout, [&] {
+    QWidget* window = TopLevelTitled("使用箇所の検索");
+    if (!window) return;
+    poll.stop();
+    listed = window->findChild<QListWidget*>()->count();
+    canOpen = ButtonOf(window, "開く")->isEnabled();
+    QTest::keyClick(window, Qt::Key_Escape);
+  });
+  poll.start(20);
+  auto* list = qobject_cast<QListWidget*>(page.Item(kIdDbList));
+  list->setCurrentRow(0);
+  emit list->customContextMenuRequested(list->visualItemRect(list->item(0)).center());
+  EXPECT_TRUE(offered);
+  EXPECT_EQ(static_cast<int>(eUseKind::AnimeSet), WhereUsedSearch().kind);
+  EXPECT_EQ(0, WhereUsedSearch().number);
+  EXPECT_EQ(static_cast<int>(WhereUsedSearch().results.size()), listed);
+  EXPECT_GT(listed, 0);
+  EXPECT_FALSE(canOpen) << "a use opens once the database window has closed";
+  sheet->Close(0);
+  QCoreApplication::processEvents();
 }
 
 }  // namespace

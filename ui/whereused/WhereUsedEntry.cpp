@@ -115,4 +115,13 @@ void InstallWhereUsedWindow(cStageWindow& stage) {
   });
 }
 
+void ShowUsesOver(cDialogManager& manager, QWidget* owner, const cUseTarget& target) {
+  cWhereUsedSearch& search = WhereUsedSearch();
+  search.kind = static_cast<int>(target.kind);
+  search.number = target.number;
+  search.Run();
+  cWhereUsedWindow window(manager, owner, search, nullptr);
+  window.DoModal(cDialog::kDisableOthers);
+}
+
 }  // namespace velmora

@@ -38,10 +38,12 @@ cWhereUsedWindow::cWhereUsedWindow(cDialogManager& manager, QWidget* parent, cWh
   };
 }
 
-bool cWhereUsedWindow::Open() {
-  if (!Create(0, true)) return false;
+bool cWhereUsedWindow::Open() { return Create(0, true); }
+
+void cWhereUsedWindow::OnInitDialog() {
+  cDialog::OnInitDialog();
   ShowStatus();
-  return true;
+  EnableControl(kIdOpenUse, m_open != nullptr);
 }
 
 void cWhereUsedWindow::BindOwnControls() {
@@ -76,6 +78,7 @@ void cWhereUsedWindow::ShowStatus() {
   std::string text;
   AppendFormat(text, SysText("%d 件"), static_cast<int>(m_search.results.size()));
   for (const std::string& file : m_search.unreadable) AppendFormat(text, SysText("　%s は読めないため検索していません"), file.c_str());
+  if (!m_open) text += SysText("　※使用箇所は、このウィンドウを閉じてからプロジェクトメニューの検索で開けます");
   SetItemText(kIdStatus, text);
 }
 
@@ -86,7 +89,7 @@ void cWhereUsedWindow::OnDialogCommand(int id, int notice) {
     Search();
   }
   const cList* list = FindControlOf<cList>(kIdResults);
-  if (id == kIdOpenUse && list && list->Selection() >= 0 &&
+  if (id == kIdOpenUse && m_open && list && list->Selection() >= 0 &&
       static_cast<size_t>(list->Selection()) < m_search.results.size()) {
     // A copy: opening may take this window away with the stage window.
     const cFoundUse found = m_search.results[static_cast<size_t>(list->Selection())];

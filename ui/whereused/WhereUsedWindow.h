@@ -12,6 +12,7 @@ class cWhereUsedWindow : public cDialog {
  public:
   using cOpenUse = std::function<void(const cFoundUse& found)>;
 
+  // Without `open` the uses are only listed.
   cWhereUsedWindow(cDialogManager& manager, QWidget* parent, cWhereUsedSearch& search, cOpenUse open);
   bool Open();
   // Searches for `target` at once, as the places that know what they
@@ -21,6 +22,7 @@ class cWhereUsedWindow : public cDialog {
  protected:
   void OnDialogCommand(int id, int notice) override;
   void BindOwnControls() override;
+  void OnInitDialog() override;
 
  private:
   void Search();

@@ -12,6 +12,14 @@ inline double ThreadMs() {
   return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
+// Processor time of the whole process, every thread counted: a wait that
+// spins shows here, one that sleeps doesn't.
+inline double ProcessMs() {
+  timespec now{};
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+  return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
 // The processor time of one round of `work`, averaged over `rounds`.
 template <class Work>
 double AverageMs(int rounds, Work work) {

@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QImage>
 #include <QListWidget>
 #include <QScrollBar>
 #include <QTabWidget>
@@ -10,6 +9,7 @@
 
 #include "SampleFolder.h"
 #include "ThreadClock.h"
+#include "WidgetPaint.h"
 #include "core/ProjectPaths.h"
 #include "project/Database.h"
 #include "ui/app/EditorApp.h"
@@ -42,12 +42,6 @@ bool FillLists() {
          sounds.SaveFile(velmora::PathOf(velmora::ePath::Sound));
 }
 
-// A page's window painted into an image, as the screen gets it.
-void Paint(QWidget* window) {
-  QImage target(window->size(), QImage::Format_RGB32);
-  window->render(&target);
-}
-
 }  // namespace
 
 // The database window opened on a project whose picture and sound lists
@@ -69,17 +63,17 @@ int main(int argc, char** argv) {
       clock.start();
       editor.StageWindow()->SendCommand(velmora::MakeCommand(kCmdDatabase, velmora::kNoticeClicked), 0);
       velmora::cDatabaseSheet* sheet = velmora::OpenDatabaseSheet();
-      Paint(sheet->Window());
+      velmora::bench::Paint(sheet->Window());
       std::printf("BENCH database_open_ms %.1f ms target <= 300\n", clock.nsecsElapsed() / 1e6);
 
       sheet->Window()->findChild<QTabWidget*>()->setCurrentIndex(kPictureTab);
       auto* list = qobject_cast<QListWidget*>(sheet->Page(kPictureTab)->Item(velmora::kIdDbList));
       QScrollBar* bar = list->verticalScrollBar();
-      Paint(list);
+      velmora::bench::Paint(list);
       const double start = velmora::bench::ThreadMs();
       for (int i = 0; i < kScrollRounds; ++i) {
         bar->setValue((i * bar->pageStep()) % (bar->maximum() + 1));
-        Paint(list);
+        velmora::bench::Paint(list);
       }
       std::printf("BENCH database_scroll_ms %.3f ms target <= 16.7\n",
                   (velmora::bench::ThreadMs() - start) / kScrollRounds);

@@ -9,10 +9,13 @@
 #include <string>
 #include <vector>
 
+#include "FullStage.h"
+#include "ThreadClock.h"
 #include "core/SaveData.h"
 #include "platform/FileSystem.h"
 #include "platform/HeapPolicy.h"
 #include "stage/Stage.h"
+#include "stage/StageLoader.h"
 
 namespace {
 
@@ -24,44 +27,6 @@ constexpr int kLoadRounds = 3;
 
 double Ms(std::chrono::steady_clock::time_point since) {
   return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - since).count();
-}
-
-template <class Entry>
-void GiveBehaviour(Entry& entry, int graphic) {
-  entry.m_nGraphicNo = graphic;
-  entry.m_vCond.resize(2);
-  entry.m_vCond[1].m_nKind = 3;
-}
-
-void FillStage(cStage& stage) {
-  stage.InitDefault();
-  stage.SetSize(kSide, kSide, 0, 0);
-  cEdChara enemy;
-  GiveBehaviour(enemy, 2);
-  enemy.m_nControl = 1;
-  enemy.m_vFlow.resize(3);
-  for (cEdFlow& flow : enemy.m_vFlow) {
-    flow.m_vCond.resize(2);
-    flow.m_vCmd.resize(4);
-    for (cEdCmd& cmd : flow.m_vCmd) cmd.m_vParam.assign(6, 7);
-  }
-  cEdBlock block;
-  GiveBehaviour(block, 1);
-  cEdItem item;
-  GiveBehaviour(item, 3);
-  item.m_vCmd.resize(2);
-  stage.m_vecBlockPlt.push_back(block);
-  stage.m_vecCharaPlt.push_back(enemy);
-  stage.m_vecItemPlt.push_back(item);
-  for (int y = 0; y < kSide; ++y) {
-    for (int x = 0; x < kSide; ++x) {
-      const size_t cell = static_cast<size_t>(stage.CellIndex(x, y));
-      stage.m_vecBlockCell[cell].CopyFrom(block);
-      stage.m_vecCharaCell[cell] = enemy;
-      stage.m_vecItemCell[cell] = item;
-    }
-  }
-  stage.m_vecCharaCell[0].m_nControl = 0;  // the player
 }
 
 double PlainWrite(const std::string& host, size_t bytes) {
@@ -76,16 +41,18 @@ double PlainWrite(const std::string& host, size_t bytes) {
 
 double PlainRead(const std::string& host) {
   std::vector<char> chunk(kChunk);
-  const auto start = std::chrono::steady_clock::now();
+  const double start = bench::ThreadMs();
   std::FILE* file = std::fopen(host.c_str(), "rb");
   while (std::fread(chunk.data(), 1, kChunk, file) == kChunk) {
   }
   std::fclose(file);
-  return Ms(start);
+  return bench::ThreadMs() - start;
 }
 
 // One load and one plain read of the same bytes, each from the page cache,
-// taken back to back so that both see the machine in the same state.
+// taken back to back so that both see the machine in the same state. Both
+// count processor time, as the machine is shared; the load's counts both
+// of its threads, the worker that parses and this one that waits.
 struct cLoadRound {
   double load = 0;
   double read = 0;
@@ -95,9 +62,10 @@ struct cLoadRound {
 cLoadRound LoadRound(cStage& stage, const std::string& stored, const std::string& plain) {
   cLoadRound round;
   stage.InitDefault();
-  const auto start = std::chrono::steady_clock::now();
-  if (!stage.LoadFile(stored)) return round;
-  round.load = Ms(start);
+  const double start = bench::ProcessMs();
+  // The editor's own way: the worker parses while this thread waits.
+  if (StageLoader().Run(stored, stage) != eStageLoad::Loaded) return round;
+  round.load = bench::ProcessMs() - start;
   round.whole = stage.m_nWidth == kSide && stage.m_vecItemCell[1].m_nGraphicNo == 3 &&
                 stage.m_vecCharaCell[static_cast<size_t>(stage.CellIndex(kSide - 1, kSide - 1))].m_vFlow.size() == 3;
   round.read = PlainRead(plain);
@@ -114,7 +82,7 @@ int main() {
   // The process is set up as the editor sets itself up.
   KeepLayersInHeap();
   cStage& stage = EditStage();
-  FillStage(stage);
+  bench::FillWithBehaviour(stage, kSide);
 
   // Both writes start with no dirty pages waiting, so that neither is held
   // back by the other's write-back.
@@ -144,7 +112,7 @@ int main() {
   std::printf("BENCH stage_file_bytes %lld bytes\n", bytes);
   std::printf("BENCH stage_save_ms %.1f ms\n", save);
   std::printf("BENCH stage_load_ms %.1f ms\n", middle.load);
-  std::printf("BENCH stage_load_vs_read_ratio %.2f x target <= 10\n", middle.load / middle.read);
+  std::printf("BENCH stage_load_vs_read_ratio %.2f x target <= 6\n", middle.load / middle.read);
   std::printf("BENCH stage_save_vs_write_ratio %.2f x target <= 10\n", save / write);
   return 0;
 }

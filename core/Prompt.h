@@ -29,6 +29,14 @@ class cPrompt {
                       eIcon icon) = 0;
   // Each gives false when the author cancels; `path` is a stored path.
   virtual bool OpenFile(OwnerWindow owner, const cFilePrompt& request, std::string& path) = 0;
+  // Several files chosen at once, in the order the prompt gives them. A
+  // prompt that can't take several asks for one.
+  virtual bool OpenFiles(OwnerWindow owner, const cFilePrompt& request, std::vector<std::string>& paths) {
+    std::string path;
+    if (!OpenFile(owner, request, path)) return false;
+    paths.push_back(path);
+    return true;
+  }
   virtual bool SaveFile(OwnerWindow owner, const cFilePrompt& request, std::string& path) = 0;
   virtual bool BrowseFolder(OwnerWindow owner, const std::string& title, std::string& path) = 0;
   // A window with a caption and a line of text and no buttons, shown while

@@ -44,7 +44,7 @@ bool cEdEntry::SameEntry(const cEdEntry& other) const {
 }
 
 void cEdEntry::CheckInheritRef(int listSize) {
-  if ((m_nInheritSrc == 1 || m_nInheritSrc == 2) && m_nInheritNo >= listSize) {
+  if ((m_nInheritSrc == 1 || m_nInheritSrc == 2) && (m_nInheritNo < 0 || m_nInheritNo >= listSize)) {
     m_nInheritSrc = 0;
     m_nInheritNo = 0;
   }

@@ -14,7 +14,8 @@ void ApplyInheritTo(T& entry, std::span<const cInheritGroup<T>> groups) {
   if (entry.m_nInheritNo == 0 || entry.m_nInheritSrc == kInheritNone) return;
   const std::vector<T>* list = SourceList(entry, entry.m_nInheritSrc);
   if (!list) return;
-  if (entry.m_nInheritNo >= static_cast<int>(list->size())) {
+  // A damaged file may hold any number, below 0 too.
+  if (entry.m_nInheritNo < 0 || entry.m_nInheritNo >= static_cast<int>(list->size())) {
     entry.m_nInheritSrc = kInheritNone;
     return;
   }

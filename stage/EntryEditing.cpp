@@ -83,6 +83,7 @@ bool StoreEntry(const cEditPlace& place, const Entry& entry) {
   switch (place.target) {
     case kEditCell:
       RecordStep(LayerBit(place.kind));
+      NoteCellWrite(*at);
       *at = entry;
       edit.m_bStageChanged = 1;
       break;
@@ -151,6 +152,12 @@ bool FitForEditing(cEdItem& entry) {
 }
 
 template <class Entry>
+bool FitsItsEditor(const Entry& entry) {
+  Entry fitted = entry;
+  return !FitForEditing(fitted);
+}
+
+template <class Entry>
 void LoadEntryWork(cEntryWork<Entry>& work, const Entry& entry, const cEditPlace& place) {
   work.entry = entry;
   work.place = place;
@@ -194,6 +201,7 @@ int OfferedInheritSources(int target) {
 #define VELMORA_ENTRY_EDITING(Entry)                                        \
   template bool PointEditAt<Entry>(const cEditPlace&, Entry*);              \
   template Entry* EditedEntry<Entry>();                                     \
+  template bool FitsItsEditor(const Entry&);                                \
   template void LoadEntryWork(cEntryWork<Entry>&, const Entry&, const cEditPlace&); \
   template void SyncInheritFlags(cEntryWork<Entry>&);                       \
   template void InheritNow(cEntryWork<Entry>&);                             \

@@ -69,6 +69,12 @@ bool FitForEditing(cEdBlock& entry);
 bool FitForEditing(cEdChara& entry);
 bool FitForEditing(cEdItem& entry);
 
+// Whether an entry fits its editor as it stands. A list longer than the
+// editor takes, as only a damaged or foreign file holds, would lose its
+// tail on OK, so such an entry is not opened at all.
+template <class Entry>
+bool FitsItsEditor(const Entry& entry);
+
 template <class Entry>
 void LoadEntryWork(cEntryWork<Entry>& work, const Entry& entry, const cEditPlace& place);
 // The boxes into the copy's flags.

@@ -8,6 +8,7 @@
 #include "core/SystemText.h"
 #include "objects/Inherit.h"
 #include "objects/RefSizes.h"
+#include "stage/StageHistory.h"
 
 namespace velmora {
 namespace {
@@ -218,7 +219,11 @@ void cStage::KeepLastPlayer(std::span<const int32_t> cells) {
   for (const int32_t& index : cells) {
     cEdChara& cell = VecAt(m_vecCharaCell, index);
     if (!IsPlayer(cell)) continue;
-    if (last) EraseCell(VecAt(m_vecCharaCell, *last));
+    if (last) {
+      cEdChara& surplus = VecAt(m_vecCharaCell, *last);
+      NoteCellWrite(surplus);
+      EraseCell(surplus);
+    }
     last = &index;
   }
 }

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/CheckedAccess.h"
+#include "stage/StageHistory.h"
 #include "stage/StageHooks.h"
 #include "stage/StageLayers.h"
 
@@ -15,7 +16,9 @@ constexpr size_t kControlInheritGroup = 1;
 
 template <class T>
 void WriteCell(std::vector<T>& cells, int index, const T& record) {
-  VecAt(cells, index) = record;
+  T& cell = VecAt(cells, index);
+  NoteCellWrite(cell);
+  cell = record;
 }
 
 void WriteCell(std::vector<cEdChara>& /*cells*/, int index, const cEdChara& record) {
@@ -39,7 +42,9 @@ void RemoveOtherPlayers(cStage& stage) {
   for (int y = 0; y < stage.m_nHeight; ++y) {
     for (int x = 0; x < stage.m_nWidth; ++x) {
       cEdChara& cell = VecAt(stage.m_vecCharaCell, stage.CellIndex(x, y));
-      if (cell.m_nControl == 0) cell = blank;
+      if (cell.m_nControl != 0) continue;
+      NoteCellWrite(cell);
+      cell = blank;
     }
   }
 }
@@ -58,12 +63,14 @@ void SetChara(cStage& stage, int index, cEdChara chara) {
   const bool cellIsPlayer = IsPlayer(cell);
   const bool newIsPlayer = IsPlayer(chara);
   if (cellIsPlayer && !newIsPlayer) {
-    const int to = FreeCellAfter(stage, index);
-    VecAt(stage.m_vecCharaCell, to) = cell;
+    cEdChara& to = VecAt(stage.m_vecCharaCell, FreeCellAfter(stage, index));
+    NoteCellWrite(to);
+    to = cell;
   } else if (newIsPlayer && !cellIsPlayer) {
     RemoveOtherPlayers(stage);
   }
-  VecAt(stage.m_vecCharaCell, index) = std::move(chara);
+  NoteCellWrite(cell);
+  cell = std::move(chara);
 }
 
 int CursorModeForTool(int tool) {

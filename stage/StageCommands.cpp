@@ -30,6 +30,7 @@ bool ClearLayersCommand(eClearLayers which) {
     return false;
   }
   RecordStep(command.mask);
+  NoteLayerWrite(command.mask);
   for (int layer = 0; layer < kLayerCount; ++layer) {
     if (!(command.mask & LayerBit(layer))) continue;
     WithLayer(layer, [](auto& cells, const auto&) { cells.assign(cells.size(), {}); });

@@ -8,6 +8,7 @@
 #include "objects/Block.h"
 #include "objects/Chara.h"
 #include "objects/Item.h"
+#include "stage/HistoryStep.h"
 
 namespace velmora {
 
@@ -23,17 +24,14 @@ struct cStageEdit {
   int32_t m_bCommonChanged = 0;
 
   // Undo history: slot 0 is the newest; a slot's mask names the layers it
-  // holds (1 blocks, 2 characters, 4 items).
-  std::vector<std::vector<cEdBlock>> m_vecUndoBlock, m_vecRedoBlock;
-  std::vector<std::vector<cEdChara>> m_vecUndoChara, m_vecRedoChara;
-  std::vector<std::vector<cEdItem>> m_vecUndoItem, m_vecRedoItem;
+  // covers (1 blocks, 2 characters, 4 items), and the slot holds the cells
+  // of those layers that its step changed.
+  std::vector<cHistoryStep> m_vecUndoStep, m_vecRedoStep;
   std::vector<uint32_t> m_vecUndoMask, m_vecRedoMask;
-  // The occupied cells that each slot holds, per layer and in rising
-  // order: undo and redo then cost what a step holds, not the stage's size.
-  struct cSlotCells {
-    std::vector<int32_t> block, chara, item;
-  };
-  std::vector<cSlotCells> m_vecUndoCells, m_vecRedoCells;
+  // While the newest undo step is open, the layer bits of every cell it
+  // holds already, so that a cell written twice keeps its first state.
+  std::vector<uint8_t> m_vecStepHeld;
+  int32_t m_bStepOpen = 0;
   int32_t m_iUndoNum = 0;
   int32_t m_iRedoNum = 0;
   int32_t m_bTestPlay = 0;

@@ -40,7 +40,22 @@ std::string WithoutExtension(const std::string& path) {
   return dot == std::string::npos ? path : path.substr(0, dot);
 }
 
-std::string Relative(const std::string& path) {
+// The file prompts give a path inside the project folder relative to it,
+// and one outside from the root, as no relative path would stay right.
+bool OutsideProject(const std::string& path) {
+  const bool fromRoot = !path.empty() && (path[0] == '\\' || path[0] == '/');
+  const bool withDrive = path.size() >= 2 && path[1] == ':';
+  return fromRoot || withDrive || path.rfind("..", 0) == 0;
+}
+
+// The stored form of a chosen stage path: ".\\" and the path inside the
+// project folder; a path outside stays as it is, and the author is told
+// that the project's files belong together.
+std::string StoredStagePath(const std::string& path) {
+  if (OutsideProject(path)) {
+    ErrorBox("%s", SysText("ヴェルモラ本体が存在するドライブとステージファイルが存在するドライブとが異なります！\nヴェルモラにおける全てのデータファイルは同一ドライブに保存することを推奨します。"));
+    return path;
+  }
   return path.rfind(".\\", 0) == 0 ? path : ".\\" + path;
 }
 
@@ -142,7 +157,7 @@ int SaveThroughDialog(int overwrite) {
   const int saved = WriteStageSafely(chosen);
   Prompt().CloseMessageWindow();
   if (!saved) return 0;
-  edit.m_strPath = Relative(chosen);
+  edit.m_strPath = StoredStagePath(chosen);
   if (!oldPath.empty() && overwrite && WithoutExtension(oldPath) == WithoutExtension(edit.m_strPath) &&
       oldPath != edit.m_strPath) {
     HandleOldVersion(oldPath);
@@ -208,8 +223,9 @@ int SaveStage(int overwrite) {
 namespace {
 
 // Reads a stage beside the edit stage, which a failed read leaves as it was.
-int ReadStageFile(const std::string& path) {
+int ReadStageFile(std::string path) {
   ShowProgress("ステージの読み込み", "ステージを読み込んでいます...");
+  path = StoredStagePath(path);
   ClearHistory();
   auto loaded = std::make_unique<cStage>();
   const eStageLoad result = LoadStage(path, *loaded);
@@ -240,7 +256,7 @@ int OpenStage() {
     WarnIfFileMissing();
     return 0;
   }
-  return ReadStageFile(Relative(path));
+  return ReadStageFile(path);
 }
 
 int OpenStageFile(const std::string& path) {

@@ -30,7 +30,11 @@ class cFill {
     if (mark || m_depth >= kFillDepthLimit) return;
     if (!SameForFill(VecAt(m_cells, index), m_reference)) return;
     const int brushIndex = by * m_edit.m_iBrushW + bx;
-    if (static_cast<size_t>(brushIndex) < m_brush.size()) VecAt(m_cells, index) = VecAt(m_brush, brushIndex);
+    if (static_cast<size_t>(brushIndex) < m_brush.size()) {
+      T& cell = VecAt(m_cells, index);
+      NoteCellWrite(cell);
+      cell = VecAt(m_brush, brushIndex);
+    }
     mark = 1;
     const int w = m_edit.m_iBrushW;
     const int h = m_edit.m_iBrushH;

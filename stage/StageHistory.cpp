@@ -1,6 +1,7 @@
 #include "stage/StageHistory.h"
 
 #include <algorithm>
+#include <functional>
 #include <new>
 
 #include "core/CheckedAccess.h"
@@ -14,40 +15,26 @@ namespace velmora {
 namespace {
 
 // Heap cost of one block, character and item record with what they own:
-// a fixed estimate, so the figures don't move with the build.
+// a fixed estimate, so the figures don't move with the build. It still
+// rules the level count, since one step may change every cell.
 constexpr uint64_t kBytesPerCell = 459 + 276 + 1137 + 453;
 
-// The three layers of one slot or of the stage itself.
-struct cLayers {
-  std::vector<cEdBlock>* block;
-  std::vector<cEdChara>* chara;
-  std::vector<cEdItem>* item;
-};
-
-using cSlotCells = cStageEdit::cSlotCells;
-
-// Runs `fn` with the member pointers of each layer in the mask, blocks,
-// characters, items.
+// Runs `fn` with the stage's cells and the step's changes of each layer in
+// the mask: blocks, characters, items.
 template <class Fn>
 void ForEachLayer(uint32_t mask, Fn&& fn) {
-  if (mask & kLayerBlock) fn(&cLayers::block, &cSlotCells::block);
-  if (mask & kLayerChara) fn(&cLayers::chara, &cSlotCells::chara);
-  if (mask & kLayerItem) fn(&cLayers::item, &cSlotCells::item);
+  if (mask & kLayerBlock) fn(&cStage::m_vecBlockCell, &cHistoryStep::block);
+  if (mask & kLayerChara) fn(&cStage::m_vecCharaCell, &cHistoryStep::chara);
+  if (mask & kLayerItem) fn(&cStage::m_vecItemCell, &cHistoryStep::item);
 }
 
 struct cStack {
-  std::vector<std::vector<cEdBlock>>& block;
-  std::vector<std::vector<cEdChara>>& chara;
-  std::vector<std::vector<cEdItem>>& item;
+  std::vector<cHistoryStep>& steps;
   std::vector<uint32_t>& masks;
-  std::vector<cSlotCells>& cells;
   int32_t& count;
 
-  cLayers Slot(int i) { return {&VecAt(block, i), &VecAt(chara, i), &VecAt(item, i)}; }
-  cSlotCells& Cells(int i) { return VecAt(cells, i); }
-
   // Moves slot `to - 1` to the front (right) or the front slot to `to - 1`
-  // (left) by swapping buffers: a step is never copied within its stack.
+  // (left): steps move, they are never copied.
   void RotateRight(int to) { Rotate(to, [](auto first, auto last) { std::rotate(first, last - 1, last); }); }
   void RotateLeft(int to) { Rotate(to, [](auto first, auto last) { std::rotate(first, first + 1, last); }); }
 
@@ -56,27 +43,69 @@ struct cStack {
   void Rotate(int to, Fn&& rotate) {
     const auto n = static_cast<std::ptrdiff_t>(std::min<size_t>(static_cast<size_t>(to), masks.size()));
     if (n < 2) return;
-    rotate(block.begin(), block.begin() + n);
-    rotate(chara.begin(), chara.begin() + n);
-    rotate(item.begin(), item.begin() + n);
+    rotate(steps.begin(), steps.begin() + n);
     rotate(masks.begin(), masks.begin() + n);
-    rotate(cells.begin(), cells.begin() + n);
   }
 };
 
 cStack UndoStack() {
   cStageEdit& e = StageEdit();
-  return {e.m_vecUndoBlock, e.m_vecUndoChara, e.m_vecUndoItem, e.m_vecUndoMask, e.m_vecUndoCells, e.m_iUndoNum};
+  return {e.m_vecUndoStep, e.m_vecUndoMask, e.m_iUndoNum};
 }
 
 cStack RedoStack() {
   cStageEdit& e = StageEdit();
-  return {e.m_vecRedoBlock, e.m_vecRedoChara, e.m_vecRedoItem, e.m_vecRedoMask, e.m_vecRedoCells, e.m_iRedoNum};
+  return {e.m_vecRedoStep, e.m_vecRedoMask, e.m_iRedoNum};
 }
 
-cLayers PresentLayers() {
-  cStage& s = EditStage();
-  return {&s.m_vecBlockCell, &s.m_vecCharaCell, &s.m_vecItemCell};
+bool MayRecord() { return EditStage().m_iUndoCount > 0 && !StageEdit().m_bTestPlay; }
+
+// The held marks of the open step go, so that the next step starts with
+// none; the cost is what the step holds.
+void CloseStep() {
+  cStageEdit& e = StageEdit();
+  if (!e.m_bStepOpen) return;
+  e.m_bStepOpen = 0;
+  if (e.m_vecUndoStep.empty()) return;
+  auto unmark = [&](int32_t i) {
+    if (static_cast<size_t>(i) < e.m_vecStepHeld.size()) e.m_vecStepHeld[static_cast<size_t>(i)] = 0;
+  };
+  ForEachLayer(kLayerAll, [&](auto, auto changes) {
+    const auto& held = e.m_vecUndoStep.front().*changes;
+    for (const auto& [i, record] : held.kept) unmark(i);
+    for (int32_t i : held.emptied) unmark(i);
+  });
+}
+
+// A step that can't get the memory for one more cell would undo only part
+// of what it changed: the history goes, and so does the program.
+template <class T>
+void Hold(cLayerChanges<T>& changes, int32_t index, const T& cell) {
+  try {
+    if (IsOccupied(cell)) {
+      changes.kept.emplace_back(index, cell);
+    } else {
+      changes.emptied.push_back(index);
+    }
+  } catch (const std::bad_alloc&) {
+    ClearHistory();
+    StopOutOfMemory();
+  }
+}
+
+template <class T>
+void Note(const T& cell, std::vector<T> cStage::*layer, cLayerChanges<T> cHistoryStep::*changes, uint32_t bit) {
+  cStageEdit& e = StageEdit();
+  if (!e.m_bStepOpen || e.m_vecUndoStep.empty() || !(e.m_vecUndoMask.front() & bit)) return;
+  const std::vector<T>& cells = EditStage().*layer;
+  const std::less<const T*> before;
+  if (cells.empty() || before(&cell, cells.data()) || !before(&cell, cells.data() + cells.size())) return;
+  const auto index = static_cast<size_t>(&cell - cells.data());
+  if (index >= e.m_vecStepHeld.size()) return;
+  uint8_t& held = e.m_vecStepHeld[index];
+  if (held & bit) return;
+  held = static_cast<uint8_t>(held | bit);
+  Hold(e.m_vecUndoStep.front().*changes, static_cast<int32_t>(index), cell);
 }
 
 // Lists the occupied cells of a layer inside the stage, in rising order,
@@ -99,127 +128,77 @@ void ScanOccupied(const std::vector<T>& layer, Take&& take) {
   }
 }
 
-// The cells that the slot held from an earlier step are emptied first, so
-// that the slot reads as a whole copy of the layer.
-template <class T>
-void Snapshot(std::vector<T>& slot, std::vector<int32_t>& held, const std::vector<T>& layer) {
-  for (int32_t i : held) VecAt(slot, i).m_nGraphicNo = 0;
-  held.clear();
-  if (slot.size() < layer.size()) {
-    BadIndex('V', static_cast<int>(layer.size()) - 1, static_cast<int>(slot.size()), static_cast<int>(sizeof(T)),
-             eBadIndexClose::DestroyAtOnce);
-    return;
-  }
-  ScanOccupied(layer, [&](int i) {
-    slot[static_cast<size_t>(i)] = layer[static_cast<size_t>(i)];
-    held.push_back(i);
-  });
-}
-
-// The layer's cells `occupied` are emptied and the slot's cells come back
-// in their place, each with what it inherits now.
-template <class T>
-void Restore(std::vector<T>& layer, const std::vector<int32_t>& occupied, const std::vector<T>& slot,
-             const std::vector<int32_t>& held) {
-  for (int32_t i : occupied) VecAt(layer, i).m_nGraphicNo = 0;
-  for (int32_t i : held) {
-    T& cell = VecAt(layer, i);
-    cell = VecAt(slot, i);
-    cell.ApplyInherit();
-  }
-}
-
-// The oldest step falls off a full stack: its buffers take the new one.
+// The oldest step falls off a full stack: its slot takes the new one.
 // False when nothing may be recorded.
-bool PushStep(uint32_t mask, cStack stack) {
-  const int levels = EditStage().m_iUndoCount;
-  if (levels <= 0 || StageEdit().m_bTestPlay) return false;
+bool PushStep(uint32_t mask, cStack stack, cHistoryStep step) {
+  const int levels = std::min(EditStage().m_iUndoCount, static_cast<int>(stack.masks.size()));
+  if (levels <= 0 || !MayRecord()) return false;
   stack.RotateRight(levels);
-  VecAt(stack.masks, 0) = mask;
-  const cLayers slot = stack.Slot(0);
-  const cLayers present = PresentLayers();
-  cSlotCells& held = stack.Cells(0);
-  ForEachLayer(mask, [&](auto layer, auto cells) { Snapshot(*(slot.*layer), held.*cells, *(present.*layer)); });
+  stack.steps.front() = std::move(step);
+  stack.masks.front() = mask;
   if (stack.count < levels) ++stack.count;
   return true;
 }
 
-// Moves the newest step of `from` back into the stage; the present state
-// of its layers goes to `to`, whose newest slot then lists what is occupied
-// now.
-void StepBack(cStack from, cStack to) {
-  if (EditStage().m_iUndoCount <= 0 || from.count <= 0) return;
-  const uint32_t mask = VecAt(from.masks, 0);
-  cSlotCells scanned;
-  const cSlotCells* occupied = &scanned;
-  const cLayers present = PresentLayers();
-  if (PushStep(mask, to)) {
-    occupied = &to.Cells(0);
-  } else {
-    ForEachLayer(mask, [&](auto layer, auto cells) {
-      ScanOccupied(*(present.*layer), [&](int i) { (scanned.*cells).push_back(i); });
-    });
-  }
-  const cLayers slot = from.Slot(0);
-  const cSlotCells& held = from.Cells(0);
-  {
-    cStagePaletteScope scope(EditStage());
-    ForEachLayer(mask, [&](auto layer, auto cells) {
-      Restore(*(present.*layer), occupied->*cells, *(slot.*layer), held.*cells);
-    });
-  }
-  // Only the restored cells can hold players when the character layer came
-  // back; otherwise the whole layer is looked at.
-  if (mask & kLayerChara) {
-    EditStage().KeepLastPlayer(held.chara);
-  } else {
+// The present state of the cells a step holds: what the step's inverse
+// must bring back.
+cHistoryStep PresentOf(const cHistoryStep& step, uint32_t mask) {
+  cHistoryStep present;
+  const cStage& stage = EditStage();
+  ForEachLayer(mask, [&](auto layer, auto changes) {
+    const auto& cells = stage.*layer;
+    auto& into = present.*changes;
+    const auto& held = step.*changes;
+    for (const auto& [i, record] : held.kept) Hold(into, i, VecAt(cells, i));
+    for (int32_t i : held.emptied) Hold(into, i, VecAt(cells, i));
+  });
+  return present;
+}
+
+// The step's cells come back into the stage, each with what it inherits
+// now; the step is used up.
+void Restore(cHistoryStep& step, uint32_t mask) {
+  cStage& stage = EditStage();
+  cStagePaletteScope scope(stage);
+  ForEachLayer(mask, [&](auto layer, auto changes) {
+    auto& cells = stage.*layer;
+    auto& held = step.*changes;
+    for (int32_t i : held.emptied) VecAt(cells, i).m_nGraphicNo = 0;
+    for (auto& [i, record] : held.kept) {
+      auto& cell = VecAt(cells, i);
+      cell = std::move(record);
+      cell.ApplyInherit();
+    }
+  });
+}
+
+// Only the restored cells can hold a second player when the character
+// layer came back; the last in row order stays.
+void RemovePlayersAfterRestore(const cHistoryStep& step, uint32_t mask) {
+  if (!(mask & kLayerChara)) {
     EditStage().RemoveSurplusPlayers();
+    return;
   }
+  std::vector<int32_t> restored;
+  restored.reserve(step.chara.kept.size());
+  for (const auto& [i, record] : step.chara.kept) restored.push_back(i);
+  std::sort(restored.begin(), restored.end());
+  EditStage().KeepLastPlayer(restored);
+}
+
+// Moves the newest step of `from` back into the stage; the present state
+// of its cells goes to `to` as the step that reverses it.
+void StepBack(cStack from, cStack to) {
+  CloseStep();
+  if (EditStage().m_iUndoCount <= 0 || from.count <= 0 || from.steps.empty()) return;
+  const uint32_t mask = from.masks.front();
+  cHistoryStep step = std::move(from.steps.front());
+  from.steps.front() = {};
   from.RotateLeft(from.count);
   --from.count;
-}
-
-// A slot cell is only read when a copy made it occupied, and such a copy
-// brings its own inherit flags; leaving them out of the blank keeps an empty
-// slot at the size of the records alone.
-template <class T>
-void AllocSlots(std::vector<std::vector<T>>& slots, int level, size_t cells) {
-  T blank;
-  blank.m_bbInherit.clear();
-  VecAt(slots, level).assign(cells, blank);
-}
-
-// Full room for every list, so that recording never allocates.
-void ReserveCells(std::vector<cSlotCells>& slots, int level, size_t cells) {
-  cSlotCells& held = VecAt(slots, level);
-  for (std::vector<int32_t>* list : {&held.block, &held.chara, &held.item}) {
-    list->clear();
-    list->reserve(cells);
-  }
-}
-
-void AllocAllSlots(int levels, size_t cells) {
-  cStageEdit& e = StageEdit();
-  e.m_vecUndoBlock.resize(static_cast<size_t>(levels));
-  e.m_vecUndoChara.resize(static_cast<size_t>(levels));
-  e.m_vecUndoItem.resize(static_cast<size_t>(levels));
-  e.m_vecRedoBlock.resize(static_cast<size_t>(levels));
-  e.m_vecRedoChara.resize(static_cast<size_t>(levels));
-  e.m_vecRedoItem.resize(static_cast<size_t>(levels));
-  e.m_vecUndoMask.assign(static_cast<size_t>(levels), 0);
-  e.m_vecRedoMask.assign(static_cast<size_t>(levels), 0);
-  e.m_vecUndoCells.resize(static_cast<size_t>(levels));
-  e.m_vecRedoCells.resize(static_cast<size_t>(levels));
-  for (int level = 0; level < levels; ++level) {
-    AllocSlots(e.m_vecUndoBlock, level, cells);
-    AllocSlots(e.m_vecUndoChara, level, cells);
-    AllocSlots(e.m_vecUndoItem, level, cells);
-    AllocSlots(e.m_vecRedoBlock, level, cells);
-    AllocSlots(e.m_vecRedoChara, level, cells);
-    AllocSlots(e.m_vecRedoItem, level, cells);
-    ReserveCells(e.m_vecUndoCells, level, cells);
-    ReserveCells(e.m_vecRedoCells, level, cells);
-  }
+  if (MayRecord()) PushStep(mask, to, PresentOf(step, mask));
+  Restore(step, mask);
+  RemovePlayersAfterRestore(step, mask);
 }
 
 }  // namespace
@@ -231,13 +210,12 @@ uint64_t EstimateStep(int width, int height) {
 
 void ClearHistory() {
   cStageEdit& e = StageEdit();
-  for (auto* slots : {&e.m_vecUndoBlock, &e.m_vecRedoBlock}) std::vector<std::vector<cEdBlock>>().swap(*slots);
-  for (auto* slots : {&e.m_vecUndoChara, &e.m_vecRedoChara}) std::vector<std::vector<cEdChara>>().swap(*slots);
-  for (auto* slots : {&e.m_vecUndoItem, &e.m_vecRedoItem}) std::vector<std::vector<cEdItem>>().swap(*slots);
+  std::vector<cHistoryStep>().swap(e.m_vecUndoStep);
+  std::vector<cHistoryStep>().swap(e.m_vecRedoStep);
   std::vector<uint32_t>().swap(e.m_vecUndoMask);
   std::vector<uint32_t>().swap(e.m_vecRedoMask);
-  std::vector<cSlotCells>().swap(e.m_vecUndoCells);
-  std::vector<cSlotCells>().swap(e.m_vecRedoCells);
+  std::vector<uint8_t>().swap(e.m_vecStepHeld);
+  e.m_bStepOpen = 0;
   e.m_iUndoNum = 0;
   e.m_iRedoNum = 0;
 }
@@ -255,8 +233,13 @@ void AllocHistory(int levels, int pitch, int height) {
     DebugBox(SysText("元に戻せる回数を %d回 に強制変更！"), levels);
     if (levels < 1) return;
   }
+  cStageEdit& e = StageEdit();
   try {
-    AllocAllSlots(levels, static_cast<size_t>(pitch) * static_cast<size_t>(height < 0 ? 0 : height));
+    e.m_vecUndoStep.resize(static_cast<size_t>(levels));
+    e.m_vecRedoStep.resize(static_cast<size_t>(levels));
+    e.m_vecUndoMask.assign(static_cast<size_t>(levels), 0);
+    e.m_vecRedoMask.assign(static_cast<size_t>(levels), 0);
+    e.m_vecStepHeld.assign(static_cast<size_t>(pitch) * static_cast<size_t>(height < 0 ? 0 : height), 0);
   } catch (const std::bad_alloc&) {
     ClearHistory();
     StopOutOfMemory();
@@ -269,9 +252,25 @@ void RebuildHistory() {
 }
 
 void RecordStep(uint32_t mask) {
-  PushStep(mask, UndoStack());
-  StageEdit().m_iRedoNum = 0;
+  CloseStep();
+  if (PushStep(mask, UndoStack(), {})) StageEdit().m_bStepOpen = 1;
+  // Steps that can't be redone any more give their memory back now.
+  cStageEdit& e = StageEdit();
+  for (int i = 0; i < e.m_iRedoNum && static_cast<size_t>(i) < e.m_vecRedoStep.size(); ++i) e.m_vecRedoStep[static_cast<size_t>(i)] = {};
+  e.m_iRedoNum = 0;
   CallHook(StageHooks().refreshUndoButtons);
+}
+
+void NoteCellWrite(const cEdBlock& cell) { Note(cell, &cStage::m_vecBlockCell, &cHistoryStep::block, kLayerBlock); }
+void NoteCellWrite(const cEdChara& cell) { Note(cell, &cStage::m_vecCharaCell, &cHistoryStep::chara, kLayerChara); }
+void NoteCellWrite(const cEdItem& cell) { Note(cell, &cStage::m_vecItemCell, &cHistoryStep::item, kLayerItem); }
+
+void NoteLayerWrite(uint32_t mask) {
+  const cStage& stage = EditStage();
+  ForEachLayer(mask, [&](auto layer, auto) {
+    const auto& cells = stage.*layer;
+    ScanOccupied(cells, [&](int i) { NoteCellWrite(cells[static_cast<size_t>(i)]); });
+  });
 }
 
 void Undo() { StepBack(UndoStack(), RedoStack()); }

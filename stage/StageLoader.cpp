@@ -9,11 +9,12 @@ namespace velmora {
 namespace {
 
 constexpr int kStopRounds = 200;
+// How long the user-interface thread sleeps between two rounds of taking
+// its messages: short enough that its windows paint smoothly, long enough
+// that the worker has the processor to itself.
+constexpr auto kDropInterval = std::chrono::milliseconds(10);
 
-bool DropNothing() {
-  std::this_thread::yield();
-  return true;
-}
+bool DropNothing() { return true; }
 
 MessageDropper& Dropper() {
   static MessageDropper dropper = DropNothing;
@@ -32,15 +33,23 @@ eStageLoad cStageLoader::Run(const std::string& path, cStage& target) {
   m_bDone = false;
   m_thread = std::thread([this] {
     m_bSucceeded = m_pTarget->LoadWholeFile(m_strPath) != 0;
-    m_bDone = true;
+    {
+      const std::lock_guard<std::mutex> lock(m_doneLock);
+      m_bDone = true;
+    }
+    m_doneSignal.notify_all();
   });
-  do {
+  // The messages are taken first, so that a quit already waiting ends the
+  // load however short it is.
+  for (;;) {
     if (!Dropper()()) {
       DebugText("msg.message == WM_QUIT");
       Stop();
       return eStageLoad::Quit;
     }
-  } while (!m_bDone.load());
+    std::unique_lock<std::mutex> lock(m_doneLock);
+    if (m_doneSignal.wait_for(lock, kDropInterval, [this] { return m_bDone.load(); })) break;
+  }
   Stop();
   return m_bSucceeded ? eStageLoad::Loaded : eStageLoad::Failed;
 }

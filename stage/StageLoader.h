@@ -1,6 +1,8 @@
 #pragma once
 #include <atomic>
+#include <condition_variable>
 #include <functional>
+#include <mutex>
 #include <string>
 #include <thread>
 
@@ -8,8 +10,10 @@ namespace velmora {
 
 class cStage;
 
-// Takes the messages waiting for the user-interface thread and drops them;
-// false when a quit request was among them. The GUI installs the real one.
+// Takes the messages waiting for the user-interface thread and drops them,
+// painting what needs it; false when a quit request was among them. The GUI
+// installs the real one; it is called between short waits for the worker,
+// never in a busy loop.
 using MessageDropper = std::function<bool()>;
 void SetMessageDropper(MessageDropper dropper);  // empty brings back the default
 
@@ -38,6 +42,8 @@ class cStageLoader {
   std::thread m_thread;
   std::atomic<bool> m_bDone{false};
   std::atomic<bool> m_bSucceeded{false};
+  std::mutex m_doneLock;
+  std::condition_variable m_doneSignal;
 };
 
 cStageLoader& StageLoader();

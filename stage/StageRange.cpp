@@ -41,7 +41,11 @@ void ForRangeCells(const cRect& rect, Fn&& fn) {
 
 void EraseRange(const cRect& rect, bool allLayers) {
   WithActiveLayers(allLayers, [&](auto& cells, const auto&) {
-    ForRangeCells(rect, [&](int index, int) { EraseCell(VecAt(cells, index)); });
+    ForRangeCells(rect, [&](int index, int) {
+      auto& cell = VecAt(cells, index);
+      NoteCellWrite(cell);
+      EraseCell(cell);
+    });
   });
 }
 
@@ -92,7 +96,9 @@ void TurnRound(int x, int y, bool shift) {
   ForRangeCells(RangeRect(x, y), [&](int index, int) {
     cEdChara& chara = VecAt(cells, index);
     const bool facingInherited = chara.m_bbInherit.size() > kFacingInheritGroup && chara.m_bbInherit[kFacingInheritGroup];
-    if (IsOccupied(chara) && !facingInherited) chara.m_bFaceRight = !chara.m_bFaceRight;
+    if (!IsOccupied(chara) || facingInherited) return;
+    NoteCellWrite(chara);
+    chara.m_bFaceRight = !chara.m_bFaceRight;
   });
 }
 

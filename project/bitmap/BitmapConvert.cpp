@@ -106,6 +106,16 @@ cConvertOptions ConvertOptionsOf(const EditConfig& config) {
   return options;
 }
 
+void StoreConvertOptions(const cConvertOptions& options, EditConfig& config) {
+  config.m_bBmpUseTrans = options.useTransparency ? 1 : 0;
+  config.m_nBmpTransColor = options.transparentColour;
+  config.m_bBmpReplaceLine = options.replaceLineColour ? 1 : 0;
+  config.m_nBmpLineIn = options.lineColourIn;
+  config.m_nBmpLineOut = options.lineColourOut;
+  config.m_bBmpSameAsInput = options.sameAsInput ? 1 : 0;
+  config.m_strBmpFolder = options.outputFolder;
+}
+
 std::string ConvertOutputPath(const std::string& input, const cConvertOptions& options) {
   if (options.sameAsInput) return input;
   const size_t slash = input.rfind('\\');
@@ -141,10 +151,12 @@ eConvertResult ConvertBitmap(const std::string& input, const std::string& output
   return eConvertResult::Ok;
 }
 
-bool RunConversion(const std::vector<std::string>& files, const cConvertOptions& options) {
+bool RunConversion(const std::vector<std::string>& files, const cConvertOptions& options,
+                   const cConvertProgress& progress) {
   if (files.empty()) return false;
-  for (const std::string& input : files) {
-    ConvertBitmap(input, ConvertOutputPath(input, options), options, ProjectPalette(), SourcePalette());
+  for (size_t i = 0; i < files.size(); ++i) {
+    ConvertBitmap(files[i], ConvertOutputPath(files[i], options), options, ProjectPalette(), SourcePalette());
+    if (progress) progress(i + 1, files.size());
   }
   Prompt().Ask(nullptr, SysText("変換完了"), SysText("変換完了！"), eButtons::Ok, eIcon::Information);
   return true;

@@ -1,4 +1,6 @@
 #pragma once
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,8 +24,9 @@ struct cConvertOptions {
   std::string outputFolder = "bmp\\convert";
 };
 
-// The options as the editor settings keep them.
+// The options as the editor settings keep them, and back.
 cConvertOptions ConvertOptionsOf(const EditConfig& config);
+void StoreConvertOptions(const cConvertOptions& options, EditConfig& config);
 
 // Where the converted form of `input` goes.
 std::string ConvertOutputPath(const std::string& input, const cConvertOptions& options);
@@ -41,9 +44,14 @@ enum class eConvertResult { Ok, LoadFailed, Not256Colours, OpenFailed };
 eConvertResult ConvertBitmap(const std::string& input, const std::string& output, const cConvertOptions& options,
                              const cColourTable& projectPalette, const cColourTable& sourcePalette);
 
+// Told after each file of a run, with the files done and the files in all;
+// the last call comes before the completion box.
+using cConvertProgress = std::function<void(size_t done, size_t total)>;
+
 // Converts every file in list order with the palettes of the open project,
 // going on past failures, and closes with the completion box. An empty list
 // does nothing at all and gives false.
-bool RunConversion(const std::vector<std::string>& files, const cConvertOptions& options);
+bool RunConversion(const std::vector<std::string>& files, const cConvertOptions& options,
+                   const cConvertProgress& progress = {});
 
 }  // namespace velmora

@@ -78,6 +78,19 @@ TEST_F(InheritTest, SourceGoneTurnsInheritanceOff) {
   EXPECT_EQ(0, chara.m_nInheritSrc);
   EXPECT_EQ(0, chara.m_nInheritNo);
   EXPECT_EQ(Flags({}), chara.m_bbInherit);
+
+  // A number below 1 that isn't 0 names no entry either.
+  chara.m_strName = "own";
+  chara.m_nInheritSrc = kInheritCommon;
+  chara.m_nInheritNo = -3;
+  chara.m_bbInherit = Flags({0});
+  chara.ApplyInherit();
+  EXPECT_EQ(0, chara.m_nInheritSrc);
+  EXPECT_EQ("own", chara.m_strName);
+  chara.m_nInheritSrc = kInheritCommon;
+  chara.CheckRefs();
+  EXPECT_EQ(0, chara.m_nInheritSrc);
+  EXPECT_EQ(0, chara.m_nInheritNo);
 }
 
 TEST_F(InheritTest, NumberZeroOrSourceZeroKeepsFlagsAndCopiesNothing) {

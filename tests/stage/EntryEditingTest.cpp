@@ -111,6 +111,27 @@ TEST_F(EntryEditing, ADamagedEntryIsShownWithItsFlagsAndListsInTheirEditorsShape
   EXPECT_FALSE(FitForEditing(item)) << "nothing more to cut";
 }
 
+TEST_F(EntryEditing, OnlyAnEntryWhoseListsAllFitIsOpened) {
+  cEdChara chara;
+  chara.m_bbInherit.assign(3, 1);  // a flag vector of another length loses nothing when fitted
+  chara.m_vFlow.resize(999);
+  chara.m_vFlow[998].m_vCmd.resize(999);
+  EXPECT_TRUE(FitsItsEditor(chara));
+  chara.m_vFlow[998].m_vCmd.resize(1000);
+  EXPECT_FALSE(FitsItsEditor(chara));
+  EXPECT_EQ(1000u, chara.m_vFlow[998].m_vCmd.size()) << "the entry itself stays as it is";
+  chara.m_vFlow[998].m_vCmd.clear();
+  chara.m_vFlow[0].m_vCond.resize(100);
+  EXPECT_FALSE(FitsItsEditor(chara));
+
+  cEdBlock block;
+  block.m_vCond.resize(100);
+  EXPECT_FALSE(FitsItsEditor(block));
+  cEdItem item;
+  item.m_vCmd.resize(1000);
+  EXPECT_FALSE(FitsItsEditor(item));
+}
+
 TEST_F(EntryEditing, BoxesTakeTheirGroupsFromTheSourceAndGoWithoutOne) {
   cEntryWork<cEdChara> work;
   LoadEntryWork(work, EditStage().m_vecCharaPlt[1], kStageChara1);

@@ -36,9 +36,16 @@ class cStageEditTest : public ::testing::Test {
     AllocHistory(levels, stage.m_nPitch, stage.m_nHeight);
   }
 
-  static cEdBlock& Block(int x, int y) { return EditStage().m_vecBlockCell[Index(x, y)]; }
-  static cEdChara& Chara(int x, int y) { return EditStage().m_vecCharaCell[Index(x, y)]; }
-  static cEdItem& Item(int x, int y) { return EditStage().m_vecItemCell[Index(x, y)]; }
+  // A cell handed out here may be written, so an open undo step keeps it
+  // first, as the editing operations do.
+  static cEdBlock& Block(int x, int y) { return Noted(EditStage().m_vecBlockCell[Index(x, y)]); }
+  static cEdChara& Chara(int x, int y) { return Noted(EditStage().m_vecCharaCell[Index(x, y)]); }
+  static cEdItem& Item(int x, int y) { return Noted(EditStage().m_vecItemCell[Index(x, y)]); }
+  template <class T>
+  static T& Noted(T& cell) {
+    NoteCellWrite(cell);
+    return cell;
+  }
   static size_t Index(int x, int y) { return static_cast<size_t>(EditStage().CellIndex(x, y)); }
 
   static cEdBlock BlockOf(int16_t graphic) {

@@ -136,6 +136,46 @@ TEST_F(cStageFilesTest, StartUpOpensTheLastStageOrAnEmptyOne) {
   EXPECT_TRUE(StageEdit().m_strPath.empty());
 }
 
+// A stage saved outside the project folder keeps its path from the root:
+// the next save, an open and the last-stage setting reach that same file,
+// and the author hears once each time that the files belong together.
+TEST_F(cStageFilesTest, AStageOutsideTheProjectKeepsItsPathFromTheRoot) {
+  const std::filesystem::path project(m_project.Path());
+  const std::filesystem::path outside = project.parent_path() / (project.filename().string() + "-outside");
+  std::filesystem::create_directories(outside);
+  const std::string host = (outside / "far.stg4_950").string();
+  std::string stored = host;
+  std::replace(stored.begin(), stored.end(), '/', '\\');
+  const char* notice = "ヴェルモラ本体が存在するドライブとステージファイルが存在するドライブとが異なります！\n"
+                       "ヴェルモラにおける全てのデータファイルは同一ドライブに保存することを推奨します。";
+
+  m_prompt.QueuePath(stored);
+  ASSERT_EQ(1, SaveStage(0));
+  EXPECT_EQ(stored, StageEdit().m_strPath);
+  EXPECT_EQ(notice, m_prompt.LastText());
+  const std::vector<uint8_t> first = ReadBytes(host);
+  ASSERT_FALSE(first.empty());
+
+  EditStage().m_vecBlockCell[5].m_nGraphicNo = 3;
+  StageEdit().m_bStageChanged = 1;
+  ASSERT_EQ(1, SaveStage(1));
+  EXPECT_NE(first, ReadBytes(host));
+  EXPECT_EQ(stored, StageEdit().m_strPath);
+
+  CloseStage();
+  m_prompt.QueuePath(stored);
+  ASSERT_EQ(1, OpenStage());
+  EXPECT_EQ(stored, StageEdit().m_strPath);
+  EXPECT_EQ(3, EditStage().m_vecBlockCell[5].m_nGraphicNo);
+  EXPECT_EQ(notice, m_prompt.LastText());
+
+  CloseStage();
+  OpenLastStage(stored);
+  EXPECT_EQ(1, StageEdit().m_bHasStage);
+  EXPECT_EQ(3, EditStage().m_vecBlockCell[5].m_nGraphicNo);
+  std::filesystem::remove_all(outside);
+}
+
 // Every way of getting a stage builds its history for the stage's own
 // level count, so the first stroke after it can be undone.
 TEST_F(cStageFilesTest, OpenCloseAndNewLeaveAHistoryOfTheStagesDepth) {
@@ -145,14 +185,14 @@ TEST_F(cStageFilesTest, OpenCloseAndNewLeaveAHistoryOfTheStagesDepth) {
   ASSERT_EQ(1, SaveStage(1));
   m_prompt.QueuePath(kStored);
   ASSERT_EQ(1, OpenStage());
-  EXPECT_EQ(2u, StageEdit().m_vecUndoBlock.size());
+  EXPECT_EQ(2u, StageEdit().m_vecUndoMask.size());
   RecordStep(kLayerAll);
   EXPECT_TRUE(CanUndo());
   CloseStage();
   EXPECT_FALSE(CanUndo());
-  EXPECT_EQ(static_cast<size_t>(EditStage().m_iUndoCount), StageEdit().m_vecUndoBlock.size());
+  EXPECT_EQ(static_cast<size_t>(EditStage().m_iUndoCount), StageEdit().m_vecUndoMask.size());
   OpenLastStage(".\\data\\stg4\\a.stg4_950");
-  EXPECT_EQ(2u, StageEdit().m_vecRedoItem.size());
+  EXPECT_EQ(2u, StageEdit().m_vecRedoMask.size());
 }
 
 TEST_F(cStageFilesTest, NewStageReadsTheNewestTemplateAndItsPaletteSource) {
@@ -210,7 +250,7 @@ TEST_F(cStageFilesTest, ANewStageFromFilesThatCannotBeReadLeavesTheStageAsItWas)
   EXPECT_TRUE(EditStage().HasPlayer());
   EXPECT_EQ(".\\data\\stg4\\a.stg4_950", StageEdit().m_strPath);
   EXPECT_EQ(1, StageEdit().m_bStageChanged);
-  EXPECT_EQ(2u, StageEdit().m_vecUndoBlock.size()) << "the history of the stage that stays";
+  EXPECT_EQ(2u, StageEdit().m_vecUndoMask.size()) << "the history of the stage that stays";
 
   EditStage().m_vecBlockPlt.resize(5);
   m_prompt.QueuePath("data\\plt4\\good.plt4");
@@ -319,7 +359,7 @@ TEST_F(cStageFilesTest, AStageFileThatCannotBeReadLeavesTheOpenStageAsItWas) {
     EXPECT_EQ(1, StageEdit().m_bHasStage);
     EXPECT_EQ(1, StageEdit().m_bStageChanged);
     EXPECT_EQ(".\\data\\stg4\\a.stg4_950", StageEdit().m_strPath);
-    EXPECT_EQ(3u, StageEdit().m_vecUndoBlock.size()) << "the history is made anew for the stage that stays";
+    EXPECT_EQ(3u, StageEdit().m_vecUndoMask.size()) << "the history is made anew for the stage that stays";
     ASSERT_TRUE(EditStage().SaveFile("data/after.bin"));
     EXPECT_EQ(expected, ReadBytes("data/after.bin")) << broken;
   }

@@ -207,7 +207,7 @@ TEST_F(StageTools, SizeChangeClampsAndRefusesWithoutMemory) {
   EXPECT_FALSE(ApplyStageSize(10, 10, 0, 0) && EditStage().m_nWidth != 20);
   EXPECT_EQ(EditStage().m_nWidth, 20);
   EXPECT_EQ(EditStage().m_nHeight, 15);
-  EXPECT_EQ(StageEdit().m_vecUndoBlock.size(), 0u);
+  EXPECT_EQ(StageEdit().m_vecUndoMask.size(), 0u);
 
   m_freeMemory = 0;
   EXPECT_FALSE(ApplyStageSize(64, 64, 0, 0));

@@ -35,6 +35,22 @@ bool cScriptedPrompt::OpenFile(OwnerWindow, const cFilePrompt& request, std::str
   return NextPath(request.title, path);
 }
 
+// Several paths travel as one queued answer, a line each.
+void cScriptedPrompt::QueuePaths(const std::vector<std::string>& storedPaths) {
+  std::string joined;
+  for (const std::string& path : storedPaths) joined += path + '\n';
+  m_paths.push_back(joined);
+}
+
+bool cScriptedPrompt::OpenFiles(OwnerWindow, const cFilePrompt& request, std::vector<std::string>& paths) {
+  std::string joined;
+  if (!NextPath(request.title, joined)) return false;
+  for (size_t start = 0, end; (end = joined.find('\n', start)) != std::string::npos; start = end + 1) {
+    paths.push_back(joined.substr(start, end - start));
+  }
+  return true;
+}
+
 bool cScriptedPrompt::SaveFile(OwnerWindow, const cFilePrompt& request, std::string& path) {
   return NextPath(request.title, path);
 }

@@ -23,12 +23,15 @@ class cScriptedPrompt : public cPrompt {
 
   void QueueAnswer(eAnswer answer) { m_answers.push_back(answer); }
   void QueuePath(const std::string& storedPath) { m_paths.push_back(storedPath); }
+  // The answer of one prompt for several files.
+  void QueuePaths(const std::vector<std::string>& storedPaths);
   const std::vector<cShown>& Shown() const { return m_shown; }
   std::string LastText() const { return m_shown.empty() ? std::string() : m_shown.back().text; }
 
   eAnswer Ask(OwnerWindow owner, const std::string& caption, const std::string& text, eButtons buttons,
               eIcon icon) override;
   bool OpenFile(OwnerWindow owner, const cFilePrompt& request, std::string& path) override;
+  bool OpenFiles(OwnerWindow owner, const cFilePrompt& request, std::vector<std::string>& paths) override;
   bool SaveFile(OwnerWindow owner, const cFilePrompt& request, std::string& path) override;
   bool BrowseFolder(OwnerWindow owner, const std::string& title, std::string& path) override;
   void ShowMessageWindow(OwnerWindow owner, const std::string& caption, const std::string& text) override;

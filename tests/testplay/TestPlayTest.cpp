@@ -235,7 +235,7 @@ TEST_F(cTestPlayTest, StandinGameReadsTheSavedStageAndReportsItsEnd) {
   TakeGameMessages(receiver);
   ::unsetenv("VELMORA_EDITOR_CHANNEL");
   EXPECT_EQ(0, StageEdit().m_bTestPlay);
-  EXPECT_EQ(static_cast<size_t>(EditStage().m_iUndoCount), StageEdit().m_vecUndoBlock.size()) << "history built anew";
+  EXPECT_EQ(static_cast<size_t>(EditStage().m_iUndoCount), StageEdit().m_vecUndoMask.size()) << "history built anew";
   EXPECT_EQ(std::string("stage ") + kStored + "\nname 草原\nsize 20 x 15\nblocks 1\ncharacters 1\nitems 0\nplayer 2 3\n",
             testing::ReadText("Report_StandinGame.txt"));
 }

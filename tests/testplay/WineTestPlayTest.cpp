@@ -59,7 +59,7 @@ class cWineTestPlayTest : public ::testing::Test {
     }
     return !StageEdit().m_bTestPlay;
   }
-  bool HistoryBuilt() const { return StageEdit().m_vecUndoBlock.size() == static_cast<size_t>(EditStage().m_iUndoCount); }
+  bool HistoryBuilt() const { return StageEdit().m_vecUndoMask.size() == static_cast<size_t>(EditStage().m_iUndoCount); }
 
   testing::cTempProject m_project;
   std::vector<uint8_t> m_savedStage;

@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTest>
 
 #include <string>
 #include <vector>
@@ -75,14 +76,15 @@ class cEntryEditorTest : public cEditorOnSample {
     for (int row = 0; list && row < list->count(); ++row) rows << list->item(row)->text();
     return rows;
   }
-  // A key of the list, as a modeless page hands it on.
-  template <class Element>
-  static void ListKey(cDialog& page, int id, int row, int key) {
+  // Ctrl and `key` typed into the list, through the keyboard path of the
+  // window it stands in.
+  static void ListKey(cDialog& page, int id, int row, Qt::Key key) {
     QListWidget* list = ListAt(page, id);
     list->setCurrentRow(row);
     QApplication::setActiveWindow(list->window());
     list->setFocus();
-    page.template FindControlOf<cRecordListControl<Element>>(id)->OnKey(key, true);
+    QTest::keyClick(list, key, Qt::ControlModifier);
+    QApplication::processEvents();
   }
   // Inserts a command of `kind` at the selected row of the flow page's
   // list: the selector's button, then `step` in the kind's dialog.

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QCloseEvent>
 #include <QMouseEvent>
 #include <gtest/gtest.h>
 
@@ -7,7 +8,11 @@
 #include "objects/CmdTable.h"
 #include "objects/CondTables.h"
 #include "objects/FlowTables.h"
+#include "project/Database.h"
 #include "stage/Stage.h"
+#include "ui/controls/ThumbnailGrid.h"
+#include "ui/database/ObjectListDialog.h"
+#include "ui/entries/AnimeSetListDialog.h"
 
 namespace velmora::testing {
 namespace {
@@ -42,6 +47,15 @@ TEST_F(EntryEditors, APlayerGivenAFlowIsSavedWithThatFlowAndNothingElseChanged) 
   InsertCommand(kCmdWait, [](cDialog& d) { Click(d, kIdOk); });
   EXPECT_EQ(ListRows(Front(), kIdFlowList).size(), 1);
   EXPECT_TRUE(ListRows(Front(), kIdFlowList).front().startsWith(QString::fromUtf8("×2 ")));
+  // The desktop's close box of the stage window asks nothing and ends
+  // nothing while the editor is open.
+  StageEdit().m_bStageChanged = 1;  // what would ask to save first
+  const size_t asked = prompt.Shown().size();
+  QCloseEvent close;
+  QApplication::sendEvent(Stage().Window(), &close);
+  EXPECT_EQ(prompt.Shown().size(), asked);
+  ASSERT_NE(OpenEntryEditor(), nullptr);
+  EXPECT_TRUE(Stage().IsOpen());
   PressOk();
   EXPECT_EQ(OpenEntryEditor(), nullptr);
   EXPECT_TRUE(Stage().Window()->isEnabled());
@@ -215,11 +229,11 @@ TEST_F(EntryEditors, TheFlowPageKeepsItsTriggerRulesAndItsListsTheirOwnClipboard
   // command list's.
   const QStringList commands = ListRows(page, kIdCmdList);
   ASSERT_FALSE(commands.isEmpty());
-  ListKey<cEdCmd>(page, kIdCmdList, 0, Qt::Key_C);
+  ListKey(page, kIdCmdList, 0, Qt::Key_C);
   Click(page, kIdFlowInsert);
   EXPECT_EQ(ListRows(page, kIdCmdList).size(), 0) << "the new flow is selected";
   InsertCommand(kCmdWait, [](cDialog& d) { Click(d, kIdOk); });
-  ListKey<cEdCmd>(page, kIdCmdList, 0, Qt::Key_V);
+  ListKey(page, kIdCmdList, 0, Qt::Key_V);
   ASSERT_EQ(ListRows(page, kIdCmdList).size(), 2);
   EXPECT_EQ(ListRows(page, kIdCmdList).front(), commands.front());
   EXPECT_TRUE(ListRows(page, kIdFlowList).front().startsWith(QString::fromUtf8("×2 "))) << "its row counts it at once";
@@ -241,12 +255,12 @@ TEST_F(EntryEditors, ABlockRefusesAPasteOfADistanceConditionAsAWhole) {
   cDialog& page = Page(0);
   const QStringList rows = ListRows(page, kIdAppearList);
   ASSERT_EQ(rows.size(), 2);
-  ListKey<cEdCond>(page, kIdAppearList, 1, Qt::Key_C);
-  ListKey<cEdCond>(page, kIdAppearList, 0, Qt::Key_V);
+  ListKey(page, kIdAppearList, 1, Qt::Key_C);
+  ListKey(page, kIdAppearList, 0, Qt::Key_V);
   EXPECT_EQ(prompt.LastText(), "「距離条件」の貼り付けはできません！");
   EXPECT_EQ(ListRows(page, kIdAppearList), rows);
-  ListKey<cEdCond>(page, kIdAppearList, 0, Qt::Key_C);
-  ListKey<cEdCond>(page, kIdAppearList, 0, Qt::Key_V);
+  ListKey(page, kIdAppearList, 0, Qt::Key_C);
+  ListKey(page, kIdAppearList, 0, Qt::Key_V);
   EXPECT_EQ(ListRows(page, kIdAppearList).size(), 3);
   PressCancel();
 }
@@ -279,6 +293,170 @@ TEST_F(EntryEditors, ADamagedEntryOpensClampedAndOkWritesWhatLoadingWouldAccept)
   cEdChara expected = stored;
   expected.m_bbInherit.assign(kCharaInheritGroups, 0);  // a common entry inherits nothing
   EXPECT_TRUE(LoadedCommonPalette().m_vecCharaPlt.at(2) == expected) << "loading changes nothing else of it";
+}
+
+TEST_F(EntryEditors, TheRightButtonOfAPaletteAndTheParameterToolOnTheStageOpenTheEditors) {
+  constexpr int kParameterTool = 40087;
+  cPaletteWindow& palette = Palettes().Palette(kCommonBlocks);
+  Command(palette, kCmdRightEdits);
+  Click(palette, QPoint(16, 16), Qt::RightButton);
+  EXPECT_EQ(OpenEntryEditor(), nullptr) << "entry 0 is never opened";
+  Click(palette, QPoint(32 + 16, 16), Qt::RightButton);
+  ASSERT_NE(OpenEntryEditor(), nullptr);
+  EXPECT_EQ(qobject_cast<QLabel*>(Page(0).Item(kIdEntryNumber))->text().toStdString(), "No.1");
+  PressCancel();
+
+  // An item under the block layer: the tool looks through the layers,
+  // opens the item's own editor and comes back to the blocks.
+  cStage& stage = EditStage();
+  const size_t index = static_cast<size_t>(stage.CellIndex(2, 2));
+  stage.m_vecItemCell.at(index) = CommonPalette().m_vecItemPlt.at(1);
+  ASSERT_TRUE(IsOccupied(stage.m_vecItemCell[index]));
+  const std::vector<cEdItem> cells = stage.m_vecItemCell;
+  ASSERT_EQ(StageEdit().m_iLayer, kKindBlock);
+  Command(palette, kParameterTool);
+  Stage().ScrollTo(0, 0);
+  bool opened = false;
+  WhenModal([&opened](QWidget*) {
+    opened = OpenEntryEditor() != nullptr;
+    if (!opened) return;
+    EXPECT_EQ(Editor().Window()->windowTitle().toStdString(), "アイテムデータ");
+    Click(Page(0), 1024);  // the name stays its own once the box is cleared
+    Type(Page(0), kIdEntryName, "宝");
+    PressOk();
+  });
+  Click(Stage(), QPoint(2 * 32 + 16, 2 * 32 + 16));
+  ASSERT_TRUE(opened);
+  EXPECT_EQ(StageEdit().m_iLayer, kKindBlock);
+  for (size_t i = 0; i < cells.size(); ++i) {
+    if (i == index) EXPECT_EQ(ToUtf8(stage.m_vecItemCell[i].m_strName), "宝");
+    else EXPECT_TRUE(stage.m_vecItemCell[i] == cells[i]) << i;
+  }
+}
+
+TEST_F(EntryEditors, TheIdleStepDrawsTheEntrysPictureAnewAfterItsGraphicChanged) {
+  OpenFromPalette(kCommonBlocks, 1);
+  QWidget* picture = Page(0).Item(kIdGraphicPreview);
+  const std::string number = Shown(Page(0), kIdGraphicNo);
+  app->IdleStep();
+  const QImage first = picture->grab().toImage();
+  Type(Page(0), kIdGraphicNo, number == "5" ? "6" : "5");
+  app->IdleStep();
+  EXPECT_NE(picture->grab().toImage(), first);
+  Type(Page(0), kIdGraphicNo, number.c_str());
+  app->IdleStep();
+  EXPECT_EQ(picture->grab().toImage(), first) << "the same graphic draws the same picture";
+  PressCancel();
+}
+
+TEST_F(EntryEditors, AnItemsCommandsComeFromTheItemSelectorAndCancellingAnInsertLeavesNoRow) {
+  constexpr int kItemWait = kCmdGameWait - kItemKindOffset;
+  OpenFromPalette(kCommonItems, 1);
+  ShowPage(1);
+  const int before = ListRows(Front(), kIdCmdList).size();
+  InsertCommand(kItemWait, [](cDialog& d) { Click(d, kIdCancel); });
+  EXPECT_EQ(ListRows(Front(), kIdCmdList).size(), before) << "the new row goes again";
+  InsertCommand(kItemWait, [](cDialog& d) { Click(d, kIdOk); });
+  ASSERT_EQ(ListRows(Front(), kIdCmdList).size(), before + 1);
+  PressOk();
+  const cEdCmd& stored = CommonPalette().m_vecItemPlt.at(1).m_vCmd.at(0);
+  EXPECT_EQ(stored.m_bItemCmd, 1);
+  EXPECT_EQ(stored.m_nKind, kItemWait);
+}
+
+TEST_F(EntryEditors, ADefaultEntryIsEditedAloneWithNoPaletteToGoAlong) {
+  Save();
+  const std::vector<uint8_t> saved = Files();
+  const std::vector<cEdBlock> brush = StageEdit().m_vecBrushBlock;
+  bool opened = false;
+  WhenModal([&opened](QWidget*) {
+    opened = OpenEntryEditor() != nullptr;
+    if (!opened) return;
+    EXPECT_FALSE(Enabled(Page(0), kIdEntryPrev));
+    EXPECT_FALSE(Enabled(Page(0), kIdEntryNext));
+    EXPECT_EQ(Rows(Page(0), kIdInheritSrc).size(), 1) << "a default entry inherits from nothing";
+    Type(Page(0), kIdEntryName, "新キャラ");
+    PressOk();
+  });
+  EXPECT_TRUE(EditDefaultEntry(app->Manager(), Stage().Window(), kKindChara));
+  ASSERT_TRUE(opened);
+  EXPECT_EQ(ToUtf8(ProjectOption().m_DefChara.m_strName), "新キャラ");
+  EXPECT_TRUE(StageEdit().m_vecBrushBlock == brush) << "the brush stays as it was";
+  Save();
+  EXPECT_EQ(Files(), saved) << "neither the stage nor the common palette changed";
+}
+
+TEST_F(EntryEditors, AnEntryWithListsBeyondItsEditorIsNotOpenedAndStaysAsItIs) {
+  cEdChara& damaged = CommonPalette().m_vecCharaPlt.at(2);
+  damaged.m_vFlow.assign(1, cEdFlow());
+  damaged.m_vFlow[0].m_vCmd.resize(1000);
+  const cEdChara before = damaged;
+  PickEntry(kCommonCharas, 2);
+  Command(Palettes().Palette(kCommonCharas), kCmdEdit);
+  EXPECT_EQ(OpenEntryEditor(), nullptr);
+  EXPECT_EQ(prompt.LastText(), "リストの数が編集できる上限を超えているため、このデータは開けません！");
+  EXPECT_TRUE(Stage().Window()->isEnabled());
+
+  // "→" onto it stores the entry shown and stays on it.
+  OpenFromPalette(kCommonCharas, 1);
+  Type(Page(0), kIdEntryName, "主");
+  Click(Page(0), kIdEntryNext);
+  EXPECT_EQ(qobject_cast<QLabel*>(Page(0).Item(kIdEntryNumber))->text().toStdString(), "No.1");
+  EXPECT_EQ(ToUtf8(CommonPalette().m_vecCharaPlt[1].m_strName), "主");
+  Type(Page(0), kIdEntryName, "主人");
+  PressOk();
+  EXPECT_EQ(ToUtf8(CommonPalette().m_vecCharaPlt[1].m_strName), "主人") << "the editor still wrote back to entry 1";
+  EXPECT_TRUE(CommonPalette().m_vecCharaPlt[2] == before);
+}
+
+TEST_F(EntryEditors, TheListsBesideAGraphicAndAnAnimationSetHandBackThePickedRowOnlyOnOk) {
+  OpenFromPalette(kCommonBlocks, 1);
+  const std::string number = Shown(Page(0), kIdGraphicNo);
+  InModal([](cDialog& d) {
+    static_cast<cObjectListDialog&>(d).Pick(37);
+    Click(d, kIdCancel);
+  });
+  Click(Page(0), kIdGraphicPick);
+  EXPECT_EQ(Shown(Page(0), kIdGraphicNo), number);
+  InModal([](cDialog& d) {
+    QWidget* sheet = d.Item(1003);
+    const QPoint at(2 * 32 + 16, 7 * 32 + 16);  // the third column's eighth picture
+    ASSERT_EQ(cObjectListDialog::NumberAt(at.x(), at.y()), 37);
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
+      QMouseEvent click(type, at, sheet->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(sheet, &click);  // a double click closes as OK
+    }
+  });
+  Click(Page(0), kIdGraphicPick);
+  EXPECT_EQ(Shown(Page(0), kIdGraphicNo), "37");
+  Choose(Page(0), kIdGraphicKind, kGraphicKindOwnBmp);
+  EXPECT_FALSE(Enabled(Page(0), kIdGraphicPick)) << "an own bitmap has no sheet to pick from";
+  PressCancel();
+  EXPECT_NE(CommonPalette().m_vecBlockPlt[1].m_nGraphicNo, 37);
+
+  const int sets = static_cast<int>(Database().m_AnimeSet.m_vecEntries.size());
+  ASSERT_GE(sets, 2);
+  OpenFromPalette(kCommonCharas, 1);
+  ShowPage(1);
+  const int16_t before = CommonPalette().m_vecCharaPlt[1].m_nAnimeSet;
+  const int other = before == 1 ? 0 : 1;
+  InModal([sets, other](cDialog& d) {
+    auto* grid = d.Window()->findChild<cThumbnailGrid*>();
+    ASSERT_NE(grid, nullptr);
+    EXPECT_EQ(grid->IndexAt(grid->CellRect(sets - 1).center()), sets - 1);
+    EXPECT_EQ(grid->IndexAt(grid->CellRect(sets).center()), -1) << "no set beyond the list";
+    static_cast<cAnimeSetListDialog&>(d).Pick(sets);  // beyond the list: nothing picked
+    const QPoint at = grid->CellRect(other).center();
+    QMouseEvent press(QEvent::MouseButtonPress, at, grid->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(grid, &press);
+    QMouseEvent twice(QEvent::MouseButtonDblClick, at, grid->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(grid, &twice);  // a double click closes as OK
+  });
+  Click(Front(), kIdAnimeSetPick);
+  EXPECT_EQ(OpenEntryEditor() != nullptr, true);
+  PressOk();
+  EXPECT_EQ(CommonPalette().m_vecCharaPlt[1].m_nAnimeSet, other);
 }
 
 }  // namespace

@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
+#include "RecordDump.h"
 #include "SampleDialog.h"
 #include "core/SaveData.h"
-#include "inspect/Inspector.h"
 #include "project/Database.h"
 #include "project/ProjectLoad.h"
 #include "project/SystemRecord.h"
@@ -83,29 +83,7 @@ class cSystemSheetTest : public ::testing::Test {
   }
 
   // The system file as the inspector shows it, one member a line.
-  static std::vector<std::string> Dump() {
-    std::string out, err;
-    EXPECT_EQ(0, inspect::RunInspector({"dump", kSystemFile}, out, err)) << err;
-    std::vector<std::string> lines;
-    for (size_t start = 0, end; start < out.size(); start = end + 1) {
-      end = out.find('\n', start);
-      if (end == std::string::npos) end = out.size();
-      lines.push_back(out.substr(start, end - start));
-    }
-    return lines;
-  }
-  // The members whose lines differ between two dumps of one layout.
-  static std::vector<std::string> ChangedMembers(const std::vector<std::string>& before,
-                                                 const std::vector<std::string>& after) {
-    std::vector<std::string> members;
-    EXPECT_EQ(before.size(), after.size());
-    for (size_t i = 0; i < before.size() && i < after.size(); ++i) {
-      if (before[i] == after[i]) continue;
-      const size_t open = after[i].find('"');
-      members.push_back(after[i].substr(open + 1, after[i].find('"', open + 1) - open - 1));
-    }
-    return members;
-  }
+  static std::vector<std::string> Dump() { return DumpRecordFile(kSystemFile); }
 
   cTempProject project;
   cScriptedPrompt prompt;

@@ -76,7 +76,7 @@ class TestPlayInTheEditor : public cEditorOnSample {
   }
   bool StageSaved() const { return ReadBytes(kStageHost) != savedStage; }
   static bool HistoryBuilt() {
-    return StageEdit().m_vecUndoBlock.size() == static_cast<size_t>(EditStage().m_iUndoCount);
+    return StageEdit().m_vecUndoMask.size() == static_cast<size_t>(EditStage().m_iUndoCount);
   }
 
   std::unique_ptr<cClockedHost> host;
@@ -111,7 +111,7 @@ TEST_F(TestPlayInTheEditor, F5TwiceWithinASecondIsOneStartAndAgainLaterIsADouble
   EXPECT_EQ(std::vector<std::string>{path}, host->starts[0]);
   EXPECT_TRUE(Boxes().empty());
   EXPECT_EQ(1, StageEdit().m_bTestPlay);
-  EXPECT_TRUE(StageEdit().m_vecUndoBlock.empty()) << "the undo history is cleared";
+  EXPECT_TRUE(StageEdit().m_vecUndoMask.empty()) << "the undo history is cleared";
 
   host->now += 1000;
   Command(Stage(), kTestPlayCommand);

@@ -34,7 +34,9 @@
 #include "sound/WavePlayer.h"
 #include "stage/StageEdit.h"
 #include "stage/StageHooks.h"
+#include "stage/StageLoader.h"
 #include "ui/app/HostWindow.h"
+#include "ui/app/LoadMessageDropper.h"
 #include "ui/app/SheetMeasure.h"
 #include "ui/framework/DialogManager.h"
 #include "ui/framework/Hook.h"
@@ -86,6 +88,7 @@ cEditorApp::cEditorApp(cPrompt* prompt) : m_pPrompt(prompt) {}
 
 cEditorApp::~cEditorApp() {
   SetIdleWaker(nullptr);
+  SetMessageDropper(nullptr);
   StageHooks() = cStageHooks();
   SetTestPlayHost(nullptr);
   m_pStageWindow.reset();
@@ -123,6 +126,7 @@ bool cEditorApp::Start() {
   }
   SetPrompt(m_pPrompt);
   SetIdleWaker([this] { StartIdleTimer(); });
+  InstallLoadMessageDropper();
   if (!AskDoubleStart()) return false;
   return InitApp();
 }

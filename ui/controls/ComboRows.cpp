@@ -28,6 +28,13 @@ cComboRows TextRows(const std::vector<std::string>& texts, int firstRow) {
   return rows;
 }
 
+cComboRows OptionRows(eOptionList list, int offset) {
+  cComboRows rows;
+  rows.offset = offset;
+  for (const std::string& text : OptionList(list)) rows.texts.emplace_back(SysText(text.c_str()));
+  return rows;
+}
+
 cComboDesc ComboOf(int id, cValueField field, cComboRows rows, bool adjust) {
   return cComboDesc{id, field, std::move(rows.texts), rows.offset, rows.conversion, adjust && !rows.conversion};
 }

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "core/OptionLists.h"
 #include "core/SystemText.h"
 #include "objects/LabelTable.h"
 #include "ui/controls/Descriptors.h"
@@ -51,6 +52,10 @@ cComboRows LabelRows(std::span<const Row> table, int firstRow = 0, int count = k
 // Rows that are CP932 already (names of database entries or variables),
 // from `firstRow` on.
 cComboRows TextRows(const std::vector<std::string>& texts, int firstRow = 0);
+
+// The rows of one of the settings' option lists; the field holds
+// `offset` + position (the hit level counts from 1).
+cComboRows OptionRows(eOptionList list, int offset = 0);
 
 // The descriptor of a combo box over `rows`. With `adjust` a field outside
 // the rows, as a damaged file can leave it, is forced to the nearest row

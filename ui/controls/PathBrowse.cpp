@@ -7,12 +7,12 @@
 
 namespace velmora {
 
-bool BrowseIntoEdit(cDialog& dialog, int editId, const cFilePrompt& request) {
+bool BrowseIntoEdit(cDialog& dialog, int editId, const cFilePrompt& request, const char* prefix) {
   cEditStr* edit = dialog.FindControlOf<cEditStr>(editId);
   std::string chosen;
   if (!edit || !Prompt().OpenFile(OwnerOf(dialog.Window()), request, chosen)) return false;
   if (chosen.empty() || chosen[0] == '\\' || chosen.find(':') != std::string::npos) return false;
-  edit->SetText(chosen);
+  edit->SetText(prefix + chosen);
   return true;
 }
 

@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "graphics/FixedBitmaps.h"
+#include "ui/framework/Commands.h"
 #include "ui/palette/SurfaceImage.h"
 
 namespace velmora {
@@ -24,6 +25,7 @@ class cSheetPicker : public QWidget {
     setFixedSize(kComposedSheetWidth, kComposedSheetHeight);
   }
   std::function<void(int number)> onPick;
+  std::function<void()> onAccept;
 
  protected:
   void paintEvent(QPaintEvent*) override {
@@ -36,6 +38,11 @@ class cSheetPicker : public QWidget {
   void mousePressEvent(QMouseEvent* event) override {
     const int number = cObjectListDialog::NumberAt(event->position().toPoint().x(), event->position().toPoint().y());
     if (number && onPick) onPick(number);
+  }
+  // The press before it picked the picture already.
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    const QPoint at = event->position().toPoint();
+    if (cObjectListDialog::NumberAt(at.x(), at.y()) && onAccept) onAccept();
   }
 
  private:
@@ -55,6 +62,7 @@ cObjectListDialog::cObjectListDialog(cDialogManager& manager, QWidget* parent, i
   m_form.rows = {{nullptr, cCustomDesc{kIdSheet, [this, sheet](QWidget* parentWidget) -> QWidget* {
                                          auto* picker = new cSheetPicker(parentWidget, ToImage(FixedBitmap(sheet)), Work());
                                          picker->onPick = [this](int picked) { Pick(picked); };
+                                         picker->onAccept = [this] { SendCommand(MakeCommand(kIdOk, kNoticeClicked), 0); };
                                          return picker;
                                        }}}};
 }

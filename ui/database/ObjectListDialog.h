@@ -7,7 +7,7 @@ namespace velmora {
 
 // "一覧": the pictures of blocks, characters, items or shots on the sheet
 // the palettes show them on, fifteen to a column; a click picks one, and
-// OK hands its number to the sample field.
+// OK or a double click hands its number to the field.
 class cObjectListDialog : public cRecordDialog<int16_t> {
  public:
   static constexpr int kFirstNumber = 1;

@@ -21,6 +21,10 @@ const cEditorPages<Entry>& PagesOf() {
 
 }  // namespace
 
+void TellEntryOverLimit() {
+  ErrorBoxText(SysText("リストの数が編集できる上限を超えているため、このデータは開けません！"));
+}
+
 template <class Entry>
 cEntryEditor<Entry>::cEntryEditor(cDialogManager& manager, QWidget* owner, const cEditPlace& place, bool modal)
     : cEntryEditorBase(manager, owner, Ui(PagesOf<Entry>().title), modal), m_contextBefore(CurrentObjectContext()) {
@@ -54,6 +58,13 @@ void cEntryEditor<Entry>::ShowNeighbour(int step) {
   cEditPlace next = m_work.place;
   next.index = NeighbourIndex(next, step);
   if (next.index < 0 || !ApplyPages() || !PointEditAt<Entry>(next)) return;
+  // The entry shown was stored; a neighbour the editor can't hold leaves
+  // the editor on it.
+  if (!FitsItsEditor(*EditedEntry<Entry>())) {
+    PointEditAt<Entry>(m_work.place);
+    TellEntryOverLimit();
+    return;
+  }
   SelectEntry(SideOfPlace(next), next.index);
   LoadEntryWork(m_work, *EditedEntry<Entry>(), next);
   ReloadPages();

@@ -22,6 +22,9 @@ const cEditorPages<cEdBlock>& EditorPages(const cEdBlock*);
 const cEditorPages<cEdChara>& EditorPages(const cEdChara*);
 const cEditorPages<cEdItem>& EditorPages(const cEdItem*);
 
+// The message for an entry that FitsItsEditor refuses.
+void TellEntryOverLimit();
+
 // An open entry editor, whatever its kind.
 class cEntryEditorBase : public cSheet, public cEntryEditorHost {
  public:

@@ -1,12 +1,15 @@
 #include "ui/entries/EntryPage.h"
 
 #include <QPainter>
+#include <QVBoxLayout>
 
 #include "objects/CondRules.h"
 #include "objects/CondSummary.h"
 #include "project/Database.h"
 #include "ui/conditions/EditCondition.h"
 #include "ui/controls/Picture.h"
+#include "ui/database/ObjectListDialog.h"
+#include "ui/entries/AnimeSetListDialog.h"
 #include "ui/entries/EntryRows.h"
 #include "ui/framework/IdleWake.h"
 #include "ui/list/RecordListControl.h"
@@ -44,6 +47,14 @@ cEntryPage<Entry>::cEntryPage(cDialogManager& manager, cEntryWork<Entry>& work, 
     return EditCondition(cond, isNew, Manager(), Window(), distance);
   };
   if (!kMeasuresDistance<Entry>) m_conds.m_PasteRefusal = DistancePasteRefusal;
+}
+
+// The sheet is as tall as its tallest page, the flows; the shorter pages
+// keep their rows at the top rather than spreading them over that height.
+template <class Entry>
+void cEntryPage<Entry>::BuildClient(QWidget& client) {
+  cDialog::BuildClient(client);
+  if (auto* column = qobject_cast<QVBoxLayout*>(client.layout())) column->addStretch(1);
 }
 
 template <class Entry>
@@ -95,11 +106,29 @@ bool cEntryPage<Entry>::IsInheritChoice(int id) const {
 }
 
 template <class Entry>
+bool cEntryPage<Entry>::PickFromList(int id) {
+  bool picked = false;
+  if (id == kIdGraphicPick) {
+    cObjectListDialog list(Manager(), Window(), m_work.entry.m_nGraphicKind, m_work.entry.m_nGraphicNo);
+    picked = list.DoModal(kDisableOthers) == 1;
+  } else if constexpr (std::is_same_v<Entry, cEdChara>) {
+    if (id != kIdAnimeSetPick) return false;
+    cAnimeSetListDialog list(Manager(), Window(), m_work.entry.m_nAnimeSet);
+    picked = list.DoModal(kDisableOthers) == 1;
+  } else {
+    return false;
+  }
+  if (picked) Reload();
+  return true;
+}
+
+template <class Entry>
 void cEntryPage<Entry>::OnDialogCommand(int id, int notice) {
   if (notice == kNoticeClicked && (id == kIdEntryPrev || id == kIdEntryNext)) {
     m_host.ShowNeighbour(id == kIdEntryNext ? 1 : -1);
     return;
   }
+  if (notice == kNoticeClicked && PickFromList(id)) return;
   if (IsInheritChoice(id)) {
     if (FindChanged(MakeCommand(id, notice)) == 0) return;
     FindControl(id)->Commit();

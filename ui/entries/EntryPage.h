@@ -60,6 +60,7 @@ class cEntryPage : public cDialog {
   void RepaintPreview();
 
  protected:
+  void BuildClient(QWidget& client) override;
   void BindOwnControls() override;
   void UpdateEnables() override;
   void OnDialogCommand(int id, int notice) override;
@@ -70,6 +71,8 @@ class cEntryPage : public cDialog {
 
  private:
   bool IsInheritChoice(int id) const;
+  // "一覧" of the graphic or the animation set; false for another id.
+  bool PickFromList(int id);
   void RequestPreview();
 
   cEntryWork<Entry>& m_work;

@@ -23,7 +23,9 @@ constexpr int kKeyEaseMax = 15;
 
 // Each list has a number of its own, so its menu and keys don't reach the
 // others.
-constexpr cRecordListIds kFlowIds{kIdFlowList, kIdFlowInsert, 0, kIdFlowDelete, 1};
+// The flows run down the whole page, beside the fields of the one selected.
+constexpr int kFlowRowsShown = 34;
+constexpr cRecordListIds kFlowIds{kIdFlowList, kIdFlowInsert, 0, kIdFlowDelete, 1, 0, kFlowRowsShown};
 constexpr cRecordListIds kCondIds{kIdFlowCondList, kIdFlowCondInsert, kIdFlowCondEdit, kIdFlowCondDelete, 2};
 constexpr cRecordListIds kKeyIds{kIdKeyList, kIdKeyInsert, kIdKeyEdit, kIdKeyDelete, 3};
 constexpr cRecordListIds kCmdIds{kIdCmdList, kIdCmdInsert, kIdCmdEdit, kIdCmdDelete, 4};

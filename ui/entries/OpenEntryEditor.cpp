@@ -25,6 +25,10 @@ bool EditEntryAt(cDialogManager& manager, QWidget* owner, const cEditPlace& plac
     ErrorBoxText(SysText("編集するデータがありません！"));
     return false;
   }
+  if (!FitsItsEditor(*EditedEntry<Entry>())) {
+    TellEntryOverLimit();
+    return false;
+  }
   if (!closed) {
     cEntryEditor<Entry> editor(manager, owner, place, true);
     g_pOpenEditor = &editor;
@@ -44,11 +48,24 @@ bool EditEntryAt(cDialogManager& manager, QWidget* owner, const cEditPlace& plac
   return true;
 }
 
+namespace {
+
+// The editor of an entry that isn't a cell, by the place's kind.
+bool EditEntryOfKind(cDialogManager& manager, QWidget* owner, const cEditPlace& place, cEditorClosed closed) {
+  if (place.kind == kKindBlock) return EditEntryAt<cEdBlock>(manager, owner, place, nullptr, std::move(closed));
+  if (place.kind == kKindChara) return EditEntryAt<cEdChara>(manager, owner, place, nullptr, std::move(closed));
+  return EditEntryAt<cEdItem>(manager, owner, place, nullptr, std::move(closed));
+}
+
+}  // namespace
+
 bool EditPaletteEntry(cDialogManager& manager, QWidget* owner, cPaletteSide side, int index, cEditorClosed closed) {
   const cEditPlace place{side.stagePlt ? kEditStageEntry : kEditCommonEntry, side.kind, index};
-  if (side.kind == kKindBlock) return EditEntryAt<cEdBlock>(manager, owner, place, nullptr, std::move(closed));
-  if (side.kind == kKindChara) return EditEntryAt<cEdChara>(manager, owner, place, nullptr, std::move(closed));
-  return EditEntryAt<cEdItem>(manager, owner, place, nullptr, std::move(closed));
+  return EditEntryOfKind(manager, owner, place, std::move(closed));
+}
+
+bool EditDefaultEntry(cDialogManager& manager, QWidget* owner, int kind) {
+  return EditEntryOfKind(manager, owner, {kEditDefaultEntry, kind, -1}, {});
 }
 
 template bool EditEntryAt(cDialogManager&, QWidget*, const cEditPlace&, cEdBlock*, cEditorClosed);

@@ -30,4 +30,8 @@ bool EditEntryAt(cDialogManager& manager, QWidget* owner, const cEditPlace& plac
 // beside the windows.
 bool EditPaletteEntry(cDialogManager& manager, QWidget* owner, cPaletteSide side, int index, cEditorClosed closed);
 
+// The editor of the project's default entry of a layer, as the project
+// options open it: modal, and nothing but that entry changes on OK.
+bool EditDefaultEntry(cDialogManager& manager, QWidget* owner, int kind);
+
 }  // namespace velmora

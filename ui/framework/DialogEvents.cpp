@@ -43,6 +43,13 @@ bool cDialog::HandleEvent(QEvent& event) {
   FinishGeometryOnce();
   const bool mouseEvent = dynamic_cast<QMouseEvent*>(&event) != nullptr;
   if (!mouseEvent && m_pWindow) ReadMouse(false);
+  // A window that another one took out of reach takes no input, and the
+  // desktop's close box and Alt+F4 still reach it: the stage window would
+  // end the program under an open editor.
+  if (event.type() == QEvent::Close && m_pWindow && !m_pWindow->isEnabled()) {
+    event.ignore();
+    return true;
+  }
   if (OnDialogMessage(event)) return true;
   return OnWindowMessage(event);
 }

@@ -34,10 +34,15 @@ QString HostDir(const std::string& stored) {
   return stored.empty() ? QString() : QFile::decodeName(QByteArray::fromStdString(HostPath(stored)));
 }
 
-// A chosen host path as the stored path that records keep: relative to the
-// project folder when it lies inside it, since the project is the current
-// directory and moves as a whole. False when it doesn't fit a path's room.
-bool ToStored(const QString& host, std::string& stored) {
+// A filter's label already names its patterns, as the author knows it;
+// the patterns are not shown a second time behind it.
+QFileDialog::Options PromptOptions() { return QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails; }
+
+}  // namespace
+
+// Relative when inside the project folder, since the project is the
+// current directory and moves as a whole.
+bool StoredPathOfHost(const QString& host, std::string& stored) {
   const QString relative = QDir::current().relativeFilePath(host);
   const bool inside = !relative.startsWith(QStringLiteral("..")) && !QDir::isAbsolutePath(relative);
   std::string candidate = StoredPath(QFile::encodeName(inside ? relative : host).toStdString());
@@ -45,12 +50,6 @@ bool ToStored(const QString& host, std::string& stored) {
   stored = std::move(candidate);
   return true;
 }
-
-// A filter's label already names its patterns, as the author knows it;
-// the patterns are not shown a second time behind it.
-QFileDialog::Options PromptOptions() { return QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails; }
-
-}  // namespace
 
 std::string QtFilterOf(const std::string& filter) {
   const std::vector<std::string> parts = SplitAtNul(filter);
@@ -80,11 +79,11 @@ int OpenFileDialog(QWidget* owner, std::string& buffer, const std::string& initi
     const QString one = QFileDialog::getOpenFileName(owner, caption, dir, qtFilter, nullptr, PromptOptions());
     if (!one.isEmpty()) chosen << one;
   }
-  if (chosen.isEmpty() || !ToStored(chosen.front(), buffer)) return 0;
+  if (chosen.isEmpty() || !StoredPathOfHost(chosen.front(), buffer)) return 0;
   if (names) {
     for (const QString& path : chosen) {
       std::string stored;
-      if (ToStored(path, stored)) names->push_back(stored);
+      if (StoredPathOfHost(path, stored)) names->push_back(stored);
     }
   }
   return 1;
@@ -100,7 +99,7 @@ int SaveFileDialog(QWidget* owner, std::string& buffer, const std::string& initi
   if (!defaultExt.empty()) dialog.setDefaultSuffix(FromCp932(defaultExt));
   if (keepName && !buffer.empty()) dialog.selectFile(HostDir(buffer));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return 0;
-  return ToStored(dialog.selectedFiles().front(), buffer) ? 1 : 0;
+  return StoredPathOfHost(dialog.selectedFiles().front(), buffer) ? 1 : 0;
 }
 
 int BrowseFolder(QWidget* owner, std::string& buffer, const std::string& startPath, const std::string& title) {
@@ -109,7 +108,7 @@ int BrowseFolder(QWidget* owner, std::string& buffer, const std::string& startPa
   const QString chosen = QFileDialog::getExistingDirectory(owner, FromCp932(title), start,
                                                            PromptOptions() | QFileDialog::ShowDirsOnly);
   if (chosen.isEmpty()) return 0;
-  return ToStored(chosen, buffer) ? 1 : 0;
+  return StoredPathOfHost(chosen, buffer) ? 1 : 0;
 }
 
 }  // namespace velmora

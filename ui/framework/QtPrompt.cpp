@@ -64,6 +64,12 @@ bool cQtPrompt::OpenFile(OwnerWindow owner, const cFilePrompt& request, std::str
                         false, nullptr) == 1;
 }
 
+bool cQtPrompt::OpenFiles(OwnerWindow owner, const cFilePrompt& request, std::vector<std::string>& paths) {
+  std::string first;
+  return OpenFileDialog(WidgetOf(owner), first, request.folder, request.title, request.filter, request.defaultExt,
+                        true, &paths) == 1;
+}
+
 bool cQtPrompt::SaveFile(OwnerWindow owner, const cFilePrompt& request, std::string& path) {
   path = request.initialName;
   return SaveFileDialog(WidgetOf(owner), path, request.folder, request.title, request.filter, request.defaultExt,

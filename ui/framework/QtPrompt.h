@@ -16,6 +16,7 @@ class cQtPrompt : public cPrompt {
   eAnswer Ask(OwnerWindow owner, const std::string& caption, const std::string& text, eButtons buttons,
               eIcon icon) override;
   bool OpenFile(OwnerWindow owner, const cFilePrompt& request, std::string& path) override;
+  bool OpenFiles(OwnerWindow owner, const cFilePrompt& request, std::vector<std::string>& paths) override;
   bool SaveFile(OwnerWindow owner, const cFilePrompt& request, std::string& path) override;
   bool BrowseFolder(OwnerWindow owner, const std::string& title, std::string& path) override;
   void ShowMessageWindow(OwnerWindow owner, const std::string& caption, const std::string& text) override;

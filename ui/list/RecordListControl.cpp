@@ -7,15 +7,16 @@ namespace {
 constexpr int kShownRows = 8;
 constexpr int kShownChars = 48;
 
-QWidget* MakeRecordListWidget(QWidget* parent, int chars) {
-  return NewListWidget(parent, chars > 0 ? chars : kShownChars, kShownRows);
+QWidget* MakeRecordListWidget(QWidget* parent, int chars, int rows) {
+  return NewListWidget(parent, chars > 0 ? chars : kShownChars, rows > 0 ? rows : kShownRows);
 }
 
 }  // namespace
 
 cFormRow RecordListRows(const cRecordListIds& ids) {
-  const int chars = ids.shownChars;
-  auto make = [chars](QWidget* parent) { return MakeRecordListWidget(parent, chars); };
+  auto make = [chars = ids.shownChars, rows = ids.shownRows](QWidget* parent) {
+    return MakeRecordListWidget(parent, chars, rows);
+  };
   std::vector<cFormRow> rows = {{nullptr, cCustomDesc{ids.list, make}}};
   const cButtonDesc buttons[] = {{ids.insert, "挿入"}, {ids.edit, "編集"}, {ids.remove, "削除"}};
   for (const cButtonDesc& button : buttons) {

@@ -19,6 +19,7 @@ struct cRecordListIds {
   int remove = 0;  // "削除"
   int listNumber = 1;
   int shownChars = 0;  // the list's width in characters; 0 has room for a condition's or command's text
+  int shownRows = 0;   // the list's height in rows; 0 for the usual height
 };
 
 // The rows that show a record list in a dialog's table: the list with its
@@ -77,7 +78,9 @@ class cRecordListControl : public cListControl<Element> {
 };
 
 // Binds the list of `ids` that the dialog's table made to `edit`; for the
-// dialog's BindOwnControls. Null when the window has no such list.
+// dialog's BindOwnControls. A modeless window gets the list's keys as
+// accelerators, a modal one hands them over itself. Null when the window
+// has no such list.
 template <class Element>
 cRecordListControl<Element>* BindRecordList(cDialog& dialog, const cRecordListIds& ids,
                                             cRecordListEdit<Element>& edit) {
@@ -86,6 +89,7 @@ cRecordListControl<Element>* BindRecordList(cDialog& dialog, const cRecordListId
   auto control = std::make_unique<cRecordListControl<Element>>(dialog, widget, ids, edit);
   cRecordListControl<Element>* raw = control.get();
   dialog.AddControl(std::move(control));
+  if (dialog.IsModeless()) dialog.SetAccel(ids.list, raw->Keys());
   return raw;
 }
 

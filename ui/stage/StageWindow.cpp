@@ -19,8 +19,11 @@
 #include "ui/framework/QtText.h"
 #include "ui/framework/ToolStrip.h"
 #include "ui/framework/WindowFrame.h"
+#include "ui/bitmaptool/BitmapToolDialog.h"
 #include "ui/database/DatabaseSheet.h"
+#include "ui/options/ProjectOptionSheet.h"
 #include "ui/stage/NewStageDialog.h"
+#include "ui/stagesettings/StageSettingsSheet.h"
 #include "ui/system/SystemSheet.h"
 #include "ui/stagediff/StageCompare.h"
 #include "ui/whereused/WhereUsedEntry.h"
@@ -101,7 +104,10 @@ void cStageWindow::OpenPalettes() {
     });
   }
   InstallSystemWindow(*this);
+  InstallStageSettings(*this);
   InstallWorldMapEntry(*this);
+  InstallProjectOptions(*this);
+  InstallBitmapTool(*this);
   InstallWhereUsedWindow(*this);
   InstallStageCompare(*this);
 }

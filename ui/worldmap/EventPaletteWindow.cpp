@@ -48,7 +48,6 @@ void cEventPaletteWindow::BindOwnControls() {
     shown();
     SelectionChanged();
   };
-  SetAccel(kIdList, m_pList->Keys());
 }
 
 void cEventPaletteWindow::SelectionChanged() {

@@ -1,7 +1,7 @@
 #include "ui/worldmap/WorldSettingsDialog.h"
 
-#include "graphics/ProjectPalette.h"
 #include "project/WorldMap.h"
+#include "ui/controls/ColourSwatch.h"
 #include "ui/controls/PathBrowse.h"
 #include "ui/controls/Picture.h"
 #include "ui/framework/Commands.h"
@@ -40,9 +40,7 @@ void cWorldSettingsDialog::UpdateEnables() {
   auto* swatch = FindControlOf<cPicture>(kIdSwatch);
   if (!swatch) return;
   ApplyAll();
-  const cColourRef colour = ColourOf(ProjectPalette()[static_cast<size_t>(std::clamp(Work().backColor, 0, 255))]);
-  swatch->BeginDraw().fill(QColor(RedOf(colour), GreenOf(colour), BlueOf(colour)));
-  swatch->Present();
+  ShowProjectColour(*swatch, Work().backColor);
 }
 
 void cWorldSettingsDialog::OnDialogCommand(int id, int notice) {

@@ -23,12 +23,12 @@ bool HasGameString(cFileBytes& bytes) {
   return PeStringResource(bytes, kGameStringId, text) && text == mark;
 }
 
-bool IsWindowsProgram(const std::string& stored) {
+}  // namespace
+
+bool RunsUnderWine(const std::string& stored) {
   cFileHandle file = OpenForReading(stored);
   return file && cFileBytes(file.get()).Holds(0, "MZ", 2);
 }
-
-}  // namespace
 
 bool IsGameProgram(const std::string& stored) {
   cFileHandle file = OpenForReading(stored);
@@ -65,8 +65,8 @@ bool FindGameProgram(std::string& out) {
 std::vector<std::string> GameCommand(const std::string& program, const std::vector<std::string>& args,
                                      bool& searchPath) {
   std::vector<std::string> command;
-  searchPath = IsWindowsProgram(program);
-  if (searchPath) command.push_back("wine");
+  searchPath = RunsUnderWine(program);
+  if (searchPath) command.push_back(kWineCommand);
   command.push_back(FullHostPath(program));
   command.insert(command.end(), args.begin(), args.end());
   return command;

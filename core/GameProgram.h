@@ -13,6 +13,12 @@ bool IsGameProgram(const std::string& stored);
 // carries the mark. `out` is a stored path, empty on false.
 bool FindGameProgram(std::string& out);
 
+// A Windows program runs through this loader, looked up on PATH.
+inline constexpr char kWineCommand[] = "wine";
+
+// Whether `program` is a Windows program, which runs through wine.
+bool RunsUnderWine(const std::string& program);
+
 // The command that starts `program` with `args`: the program itself, or for
 // a Windows program the Windows loader found on PATH. `searchPath` tells
 // whether argv[0] is to be looked up there.

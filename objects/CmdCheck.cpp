@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "objects/Cmd.h"
+#include "objects/CmdParamRefs.h"
 #include "objects/CmdTable.h"
 #include "objects/Flow.h"
 #include "objects/RefSizes.h"
@@ -11,57 +12,32 @@
 namespace velmora {
 namespace {
 
-// A parameter that names a database row; out of the list it becomes
-// `repaired`. `whenP0` limits the rule to one value of parameter 0.
-struct cParamRef {
-  int kind;
-  int whenP0;  // -1: always
-  int index;
-  eDbList list;
-  int32_t repaired;
-};
-
-constexpr int kAnyP0 = -1;
-constexpr int kGraphicOwnBitmap = 4;
-
-constexpr cParamRef kParamRefs[] = {
-    {kCmdGraphic, kGraphicOwnBitmap, 1, eDbList::BmpCharaExc, 1},
-    {kCmdAnimeSet, kAnyP0, 0, eDbList::AnimeSet, 0},
-    {kCmdAnime, kAnyP0, 0, eDbList::Anime, 1},
-    {kCmdEffect, kAnyP0, 0, eDbList::Effect, 1},
-    {kCmdCharaEffect, kAnyP0, 0, eDbList::CharaEffect, 1},
-    {kCmdScrEffect, kAnyP0, 0, eDbList::ScrEffect, 1},
-    {kCmdPicture, kAnyP0, 0, eDbList::Picture, 1},
-    {kCmdSound, kAnyP0, 0, eDbList::Sound, 1},
-    {kCmdBgm, kAnyP0, 0, eDbList::Bgm, 1},
-};
-
 bool Beyond(int value, eDbList list) { return value >= RefSizes().DbListSize(list); }
 
 constexpr bool OneRowPerKind() {
-  for (size_t i = 0; i < std::size(kParamRefs); ++i) {
+  for (size_t i = 0; i < std::size(kCmdParamRefs); ++i) {
     for (size_t j = 0; j < i; ++j) {
-      if (kParamRefs[i].kind == kParamRefs[j].kind) return false;
+      if (kCmdParamRefs[i].kind == kCmdParamRefs[j].kind) return false;
     }
   }
   return true;
 }
 static_assert(OneRowPerKind(), "a kind with two parameter rows needs a list of rows, not one");
 
-// The row of kParamRefs for each kind, -1 for a kind whose parameters name
+// The row of kCmdParamRefs for each kind, -1 for a kind whose parameters name
 // no database row: commands by the million pass through here on a load.
 constexpr size_t kRefKinds = 256;
 constexpr std::array<int8_t, kRefKinds> kRefRowOfKind = [] {
   std::array<int8_t, kRefKinds> rows{};
   rows.fill(-1);
-  for (size_t i = 0; i < std::size(kParamRefs); ++i) rows[static_cast<size_t>(kParamRefs[i].kind)] = static_cast<int8_t>(i);
+  for (size_t i = 0; i < std::size(kCmdParamRefs); ++i) rows[static_cast<size_t>(kCmdParamRefs[i].kind)] = static_cast<int8_t>(i);
   return rows;
 }();
 
 // `kind` is the command's kind in CmdTable numbering.
 void CheckParamRefs(cEdCmd& c, int kind) {
   if (kind < 0 || static_cast<size_t>(kind) >= kRefKinds || kRefRowOfKind[static_cast<size_t>(kind)] < 0) return;
-  const cParamRef& ref = kParamRefs[kRefRowOfKind[static_cast<size_t>(kind)]];
+  const cParamRef& ref = kCmdParamRefs[kRefRowOfKind[static_cast<size_t>(kind)]];
   if (static_cast<size_t>(ref.index) >= c.m_vParam.size()) return;
   if (ref.whenP0 != kAnyP0 && c.m_vParam[0] != ref.whenP0) return;
   int32_t& value = c.m_vParam[static_cast<size_t>(ref.index)];

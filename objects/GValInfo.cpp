@@ -45,6 +45,7 @@ bool SaveCommonVars(const std::string& storedPath) {
 }
 
 void SetStageVarList(const std::vector<cStageVar>* names) { g_pStageVars = names; }
+const std::vector<cStageVar>* StageVarList() { return g_pStageVars; }
 
 const std::string& VarName(int scope, int number) {
   return NameIn(scope == kScopeStage ? g_pStageVars : &g_vecCommonVar, number);

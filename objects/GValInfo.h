@@ -33,6 +33,20 @@ enum eVarScope : int { kScopeCommon = 0, kScopeStage = 1 };
 
 // The stage record owns the stage names; it tells where they are.
 void SetStageVarList(const std::vector<cStageVar>* names);
+const std::vector<cStageVar>* StageVarList();
+
+// A stage's names stand as the installed stage names while the guard lives,
+// for reading a stage beside the edit stage.
+class cStageVarScope {
+ public:
+  explicit cStageVarScope(const std::vector<cStageVar>& names) : m_previous(StageVarList()) { SetStageVarList(&names); }
+  ~cStageVarScope() { SetStageVarList(m_previous); }
+  cStageVarScope(const cStageVarScope&) = delete;
+  cStageVarScope& operator=(const cStageVarScope&) = delete;
+
+ private:
+  const std::vector<cStageVar>* m_previous;
+};
 
 // The name of variable `number` of a scope; "" when there is none.
 const std::string& VarName(int scope, int number);

@@ -24,4 +24,17 @@ const char* ObjectLabel(eObjectContext context, int row);
 eObjectContext CurrentObjectContext();
 void SetObjectContext(eObjectContext context);
 
+// The context stands while the guard lives, for texts made outside an
+// editor.
+class cObjectContextScope {
+ public:
+  explicit cObjectContextScope(eObjectContext context) : m_previous(CurrentObjectContext()) { SetObjectContext(context); }
+  ~cObjectContextScope() { SetObjectContext(m_previous); }
+  cObjectContextScope(const cObjectContextScope&) = delete;
+  cObjectContextScope& operator=(const cObjectContextScope&) = delete;
+
+ private:
+  eObjectContext m_previous;
+};
+
 }  // namespace velmora

@@ -148,4 +148,10 @@ long long FileSize(const std::string& stored) {
   return static_cast<long long>(st.st_size);
 }
 
+cFileStamp FileStampOf(const std::string& stored) {
+  struct stat st;
+  if (!StatHost(HostPath(stored), st)) return {};
+  return {static_cast<long long>(st.st_mtim.tv_sec) * 1000000000LL + st.st_mtim.tv_nsec, static_cast<long long>(st.st_size)};
+}
+
 }  // namespace velmora

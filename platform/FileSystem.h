@@ -34,4 +34,13 @@ std::vector<cDirEntry> ListDirectory(const std::string& stored);
 std::string FullHostPath(const std::string& stored);
 long long FileSize(const std::string& stored);  // -1 when missing
 
+// When a file was last written and its size: what tells that it changed
+// since it was last read. A missing file has the empty stamp.
+struct cFileStamp {
+  long long modifiedNs = 0;
+  long long size = -1;
+  bool operator==(const cFileStamp&) const = default;
+};
+cFileStamp FileStampOf(const std::string& stored);
+
 }  // namespace velmora

@@ -3,11 +3,14 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <spawn.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
+#include <string_view>
 
 extern char** environ;
 
@@ -64,14 +67,34 @@ int ChildEndedFd() {
   return fd;
 }
 
-void CollectEndedProcesses() {
+std::vector<int> CollectEndedProcesses() {
   // Emptied first: a child that ends after this is signalled afresh.
   DrainChildPipe();
-  std::vector<pid_t>& pids = Started();
-  std::erase_if(pids, [](pid_t pid) { return ::waitpid(pid, nullptr, WNOHANG) != 0; });
+  std::vector<int> ended;
+  std::erase_if(Started(), [&](pid_t pid) {
+    if (::waitpid(pid, nullptr, WNOHANG) == 0) return false;
+    ended.push_back(pid);
+    return true;
+  });
+  return ended;
 }
 
-bool StartProcess(const std::vector<std::string>& argv, const std::string& workDir, bool searchPath) {
+bool FoundOnPath(const std::string& name) {
+  const char* path = std::getenv("PATH");
+  std::string_view rest = path ? path : "";
+  while (true) {
+    const size_t colon = rest.find(':');
+    // An empty entry is the current directory, as for a shell.
+    const std::string folder(rest.substr(0, colon).empty() ? "." : rest.substr(0, colon));
+    const std::string candidate = folder + "/" + name;
+    struct stat st {};
+    if (::stat(candidate.c_str(), &st) == 0 && S_ISREG(st.st_mode) && ::access(candidate.c_str(), X_OK) == 0) return true;
+    if (colon == std::string_view::npos) return false;
+    rest.remove_prefix(colon + 1);
+  }
+}
+
+bool StartProcess(const std::vector<std::string>& argv, const std::string& workDir, bool searchPath, int* startedPid) {
   CollectEndedProcesses();
   if (argv.empty()) {
     errno = EINVAL;
@@ -94,6 +117,7 @@ bool StartProcess(const std::vector<std::string>& argv, const std::string& workD
     return false;
   }
   Started().push_back(pid);
+  if (startedPid) *startedPid = pid;
   return true;
 }
 

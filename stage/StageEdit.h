@@ -94,6 +94,8 @@ int SaveStage(int overwrite);
 // Both first ask about unsaved work as leaving does; 0 when the author
 // stopped there or, for open, the file was not read (the stage stays).
 int OpenStage();
+// The same for a stage file the caller names (a stored path).
+int OpenStageFile(const std::string& path);
 int CloseStage();
 // `base` names a stage by any version; `out` is its newest file.
 int FindLatestVersion(std::string& out, const std::string& base, const std::string& extension);

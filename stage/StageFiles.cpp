@@ -220,17 +220,13 @@ int SaveStage(int overwrite) {
   return saved;
 }
 
-int OpenStage() {
-  if (!AskSaveBeforeExit()) return 0;
-  std::string path;
-  if (!Prompt().OpenFile(nullptr, StageFilePrompt("読み込むファイルの選択", "stg4_", "*"), path)) {
-    WarnIfFileMissing();
-    return 0;
-  }
+namespace {
+
+// Reads a stage beside the edit stage, which a failed read leaves as it was.
+int ReadStageFile(std::string path) {
   ShowProgress("ステージの読み込み", "ステージを読み込んでいます...");
   path = StoredStagePath(path);
   ClearHistory();
-  // Read beside the edit stage, which a failed read leaves as it was.
   auto loaded = std::make_unique<cStage>();
   const eStageLoad result = LoadStage(path, *loaded);
   Prompt().CloseMessageWindow();
@@ -249,6 +245,23 @@ int OpenStage() {
   edit.m_bStageChanged = 0;
   RebuildHistory();
   return 1;
+}
+
+}  // namespace
+
+int OpenStage() {
+  if (!AskSaveBeforeExit()) return 0;
+  std::string path;
+  if (!Prompt().OpenFile(nullptr, StageFilePrompt("読み込むファイルの選択", "stg4_", "*"), path)) {
+    WarnIfFileMissing();
+    return 0;
+  }
+  return ReadStageFile(path);
+}
+
+int OpenStageFile(const std::string& path) {
+  if (!AskSaveBeforeExit()) return 0;
+  return ReadStageFile(path);
 }
 
 void OpenLastStage(const std::string& path) {

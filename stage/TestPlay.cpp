@@ -20,8 +20,20 @@ namespace {
 
 cTestPlayHost* g_host = nullptr;
 uint32_t g_testPlayStart = 0;  // clock value at the start of the last test play
+// A game under wine can't reach the editor's socket, so the end of its
+// process ends the test play too; -1 while no such game runs.
+int g_wineGame = -1;
 
 void Show(const char* utf8) { ErrorBoxText(SysText(utf8)); }
+
+// Checked before anything is saved: without wine the game can't start.
+bool WineReadyFor(const std::string& program) {
+  if (!RunsUnderWine(program) || FoundOnPath(kWineCommand)) return true;
+  ErrorBox(SysText("ゲームプログラム %s は Windows のプログラムです。\n動かすには wine が必要です。\n"
+                   "wine パッケージをインストールして下さい（sudo apt-get install wine）。"),
+           program.c_str());
+  return false;
+}
 
 // A held key must not raise the double-start message; a real second start
 // after the repeat time does.
@@ -66,7 +78,11 @@ void cTestPlayHost::AllocHistory() { RebuildHistory(); }
 bool cTestPlayHost::StartGame(const std::string& program, const std::vector<std::string>& args) {
   bool searchPath = false;
   const std::vector<std::string> command = GameCommand(program, args, searchPath);
-  if (StartProcess(command, FullHostPath("."), searchPath)) return true;
+  int pid = -1;
+  if (StartProcess(command, FullHostPath("."), searchPath, &pid)) {
+    g_wineGame = RunsUnderWine(program) ? pid : -1;
+    return true;
+  }
   ReportFormat("test play: %s cannot be started: %s", command[0].c_str(), std::strerror(errno));
   return false;
 }
@@ -85,6 +101,7 @@ int TestPlay(int whole) {
     Show("ゲームプログラムが見つかりません！");
     return 0;
   }
+  if (!WineReadyFor(program)) return 0;
   if (edit.m_bTestPlay) {
     RefuseSecondStart();
     return 0;
@@ -120,7 +137,16 @@ void TakeGameMessages(cMessageReceiver& receiver) {
   while (receiver.Receive(id)) {
     if (id == kGameEndedMessage) OnTestPlayEnd();
   }
-  CollectEndedProcesses();
+  TakeEndedGames();
+}
+
+void TakeEndedGames() {
+  for (const int pid : CollectEndedProcesses()) {
+    if (pid != g_wineGame) continue;
+    g_wineGame = -1;
+    // The end message may have come first.
+    if (StageEdit().m_bTestPlay) OnTestPlayEnd();
+  }
 }
 
 }  // namespace velmora

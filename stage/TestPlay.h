@@ -50,4 +50,9 @@ void OnTestPlayEnd();
 // whenever the receiver's descriptor is readable.
 void TakeGameMessages(cMessageReceiver& receiver);
 
+// Collects the ended child processes; the end of a game started through
+// wine ends its test play, as such a game can't send the end message. The
+// GUI calls it whenever a child process has ended.
+void TakeEndedGames();
+
 }  // namespace velmora

@@ -102,6 +102,7 @@ void RenderStageView(const cStage& stage, cSurface& out, int scrollX, int scroll
   DrawCentreCross(out);
   DrawScrollLimits(stage, out, scrollX, scrollY);
   if (options.preview) options.preview(out);
+  for (const cCellFrame& mark : options.marks) DrawFrame(out, mark, scrollX, scrollY);
   DrawFrame(out, options.cursor, scrollX, scrollY);
 }
 

@@ -44,8 +44,7 @@ bool MakeToken(std::string_view word, int32_t& cell, cCodeToken& token) {
     token.index = row;
     return true;
   }
-  // Only the first character decides, so "Cabc" is a variable.
-  if (FindCodeWord(CodeVarPrefixTable(), word.substr(0, 1)) >= 0) {
+  if (CodeVariableScope(word) >= 0) {
     token = CellToken(eCodeToken::Variable, cell, kCodeNumberMin, kCodeNumberMax);
     return true;
   }
@@ -66,7 +65,40 @@ bool MakeToken(std::string_view word, int32_t& cell, cCodeToken& token) {
   return false;
 }
 
+bool IsCodeSeparator(char c) { return c == ' ' || c == '(' || c == ')' || c == ','; }
+
+// The variable a word names: its scope and the number behind the prefix.
+// A variable word whose rest is no number names none the game can hold.
+void FindVariable(std::string_view word, const cCodeVariableFound& found) {
+  // "my.C3" is C3 with an object before it, as the tokens split it.
+  const size_t dot = word.rfind('.');
+  if (dot != std::string_view::npos) word.remove_prefix(dot + 1);
+  const int scope = CodeVariableScope(word);
+  const std::string_view digits = word.substr(std::min<size_t>(1, word.size()));
+  if (scope < 0 || digits.empty() || digits.size() > 6) return;
+  int number = 0;
+  for (const char c : digits) {
+    if (c < '0' || c > '9') return;
+    number = number * 10 + (c - '0');
+  }
+  found(scope, number);
+}
+
 }  // namespace
+
+int CodeVariableScope(std::string_view word) {
+  // Only the first character decides, so "Cabc" is a variable.
+  return word.empty() ? -1 : FindCodeWord(CodeVarPrefixTable(), word.substr(0, 1));
+}
+
+void ForEachCodeVariable(std::string_view text, const cCodeVariableFound& found) {
+  size_t wordStart = 0;
+  for (size_t pos = 0; pos <= text.size(); ++pos) {
+    if (pos < text.size() && !IsCodeSeparator(text[pos])) continue;
+    if (pos > wordStart) FindVariable(text.substr(wordStart, pos - wordStart), found);
+    wordStart = pos + 1;
+  }
+}
 
 bool SplitCodeTokens(std::string_view text, int32_t& cell, std::vector<cCodeToken>& tokens) {
   int32_t object = 0;

@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -29,6 +30,16 @@ struct cCodeToken {
 // every variable and status the one scratch `cell`, as their values are
 // dummies. False after an error, which has been raised.
 bool SplitCodeTokens(std::string_view text, int32_t& cell, std::vector<cCodeToken>& tokens);
+
+// The scope a word names as a variable: the row of its first character in
+// the prefix table (0 common, 1 stage), or -1 for a word of another kind.
+int CodeVariableScope(std::string_view word);
+
+// Every variable that a line of code names, with its scope and number, in
+// the order they stand, inside parentheses and function arguments too.
+// Raises no error: words the language refuses are passed over.
+using cCodeVariableFound = std::function<void(int scope, int number)>;
+void ForEachCodeVariable(std::string_view text, const cCodeVariableFound& found);
 
 // Stores `value` into a token's cell in the cell's width.
 void StoreInCell(const cCodeToken& token, int32_t value);

@@ -62,5 +62,17 @@ TEST(CodeTokenTest, AStoreWritesOnlyTheCellsWidth) {
   EXPECT_EQ(-1, cell);
 }
 
+// The search for uses reads variables as the tokens do, through
+// parentheses and arguments, with no box for what the language refuses.
+TEST(CodeTokenTest, VariablesAreFoundInEveryPlaceOfALine) {
+  cScriptedPrompt prompt;
+  std::vector<std::pair<int, int>> found;
+  ForEachCodeVariable("C12 = rand(C012,S3)+(tg1.S40 * 2) Cabc C S1234567 hp=C9 x",
+                      [&](int scope, int number) { found.emplace_back(scope, number); });
+  const std::vector<std::pair<int, int>> expected = {{0, 12}, {0, 12}, {1, 3}, {1, 40}};
+  EXPECT_EQ(expected, found);
+  EXPECT_TRUE(prompt.Shown().empty());
+}
+
 }  // namespace
 }  // namespace velmora

@@ -185,7 +185,7 @@ TEST_F(StageView, CellsBeyondTheStageStayBlackAndNoStageIsAllBlack) {
   EXPECT_EQ(At(325, 5), 0u);    // column 20 lies beyond the stage
   EXPECT_EQ(At(5, 165), 0u);    // so does row 15
   view.Fill(0x123456);
-  RenderStageView(stage, view, 0, 0, cViewOptions{false, {}, {}});
+  RenderStageView(stage, view, 0, 0, cViewOptions{false, {}, {}, {}});
   EXPECT_TRUE(Same());
 }
 

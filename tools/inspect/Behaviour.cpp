@@ -3,13 +3,11 @@
 #include <cstring>
 #include <memory>
 
-#include "core/ProjectPaths.h"
 #include "inspect/BehaviourText.h"
 #include "inspect/FileKinds.h"
 #include "inspect/Inspector.h"
+#include "inspect/ProjectNames.h"
 #include "inspect/PaletteFiles.h"
-#include "objects/GValInfo.h"
-#include "platform/FileSystem.h"
 #include "platform/HostPath.h"
 #include "stage/Stage.h"
 
@@ -55,16 +53,6 @@ const cBehaviourKind* FindBehaviourKind(const std::string& path) {
     if (std::strcmp(kind.fileKind, fileKind->name) == 0) return &kind;
   }
   return nullptr;
-}
-
-// Lines name variables and common palette entries as the project has them,
-// when the inspector runs inside one.
-void LoadProjectNames(ePalette shown) {
-  if (FileExists(PathOf(ePath::GValInfo))) LoadCommonVars();
-  if (shown != ePalette::Common && FileExists(PathOf(ePath::CommonPalette)) &&
-      CommonPalette().LoadFile(PathOf(ePath::CommonPalette))) {
-    InstallPaletteLists(ePalette::Common, CommonPalette().Lists());
-  }
 }
 
 }  // namespace

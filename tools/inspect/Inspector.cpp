@@ -4,9 +4,11 @@
 
 #include "core/SaveData.h"
 #include "inspect/Behaviour.h"
+#include "inspect/DiffStages.h"
 #include "inspect/FileKinds.h"
 #include "inspect/JsonWriter.h"
 #include "inspect/RenderStage.h"
+#include "inspect/WhereUsed.h"
 #include "platform/HostPath.h"
 
 namespace velmora::inspect {
@@ -17,6 +19,8 @@ const char kUsage[] =
     "       velmora-inspect resave IN OUT\n"
     "       velmora-inspect behaviour FILE [chara:N|item:N]\n"
     "       velmora-inspect render STAGE OUT.png [x y w h]\n"
+    "       velmora-inspect where-used KIND N\n"
+    "       velmora-inspect diff A.stg4_950 B.stg4_950 [OUT.png]\n"
     "Run inside a project folder so that checks use its data.\n";
 
 std::unique_ptr<cLoadedFile> LoadKnown(const std::string& path, std::string& err) {
@@ -70,6 +74,8 @@ int RunInspector(const std::vector<std::string>& args, std::string& out, std::st
     return Behaviour(args[1], args.size() == 3 ? args[2] : "", out, err);
   }
   if ((args.size() == 3 || args.size() == 7) && args[0] == "render") return RenderStage(args, err);
+  if ((args.size() == 3 || args.size() == 4) && args[0] == "diff") return DiffStages(args, out, err);
+  if (args.size() == 3 && args[0] == "where-used") return WhereUsed(args[1], args[2], out, err);
   err += kUsage;
   return 2;
 }

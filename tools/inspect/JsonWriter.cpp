@@ -40,16 +40,6 @@ std::string ScalarText(const char* bytes, int size, eFieldKind kind) {
   return text;
 }
 
-std::string FieldValue(const cSaveData& record, const cSaveField& field) {
-  const char* base = reinterpret_cast<const char*>(&record) + field.offset;
-  if (field.count == 1) return ScalarText(base, field.size, field.kind);
-  std::string list = "[";
-  for (int i = 0; i < field.count; ++i) {
-    if (i) list += ", ";
-    list += ScalarText(base + i * field.size, field.size, field.kind);
-  }
-  return list + "]";
-}
 
 class cJsonNested : public cNestedVisitor {
  public:
@@ -93,6 +83,17 @@ class cJsonNested : public cNestedVisitor {
 
 }  // namespace
 
+std::string FieldValueText(const cSaveData& record, const cSaveField& field) {
+  const char* base = reinterpret_cast<const char*>(&record) + field.offset;
+  if (field.count == 1) return ScalarText(base, field.size, field.kind);
+  std::string list = "[";
+  for (int i = 0; i < field.count; ++i) {
+    if (i) list += ", ";
+    list += ScalarText(base + i * field.size, field.size, field.kind);
+  }
+  return list + "]";
+}
+
 std::string JsonString(const std::string& utf8) {
   std::string out = "\"";
   for (unsigned char c : utf8) {
@@ -121,7 +122,7 @@ std::string RecordJson(const cSaveData& record, int indent) {
   for (const cSaveField& field : layout.fields) {
     if (field.dropped) continue;
     key(field.name);
-    out += FieldValue(record, field);
+    out += FieldValueText(record, field);
   }
   for (const cSaveString& entry : layout.strings) {
     if (entry.dropped) continue;

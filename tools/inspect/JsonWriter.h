@@ -10,5 +10,8 @@ namespace velmora::inspect {
 // shown in UTF-8.
 std::string RecordJson(const cSaveData& record, int indent = 0);
 std::string JsonString(const std::string& utf8);
+// A scalar field's value as the dump shows it; "[a, b]" for a field of
+// several elements.
+std::string FieldValueText(const cSaveData& record, const cSaveField& field);
 
 }  // namespace velmora::inspect

@@ -50,7 +50,30 @@ bool LoadPictures(std::string& err) {
   return true;
 }
 
+int WriteArea(const cStage& stage, const cCellArea& area, const cViewOptions& options, const std::string& outPath,
+              std::string& err) {
+  if (!LoadPictures(err)) return 1;
+  cSurface view;
+  if (!view.CreateSurface(area.w * kCellDots, area.h * kCellDots, 32, false)) {
+    err += "velmora-inspect: no memory for the picture\n";
+    return 1;
+  }
+  RenderStageView(stage, view, area.x, area.y, options);
+  if (!WritePng(outPath, view.Image())) {
+    err += "velmora-inspect: cannot write " + outPath + "\n";
+    return 1;
+  }
+  return 0;
+}
+
 }  // namespace
+
+int WriteStagePng(const cStage& stage, const std::vector<cCellFrame>& marks, const std::string& outPath,
+                  std::string& err) {
+  cViewOptions options;
+  options.marks = marks;
+  return WriteArea(stage, {0, 0, stage.m_nWidth, stage.m_nHeight}, options, outPath, err);
+}
 
 int RenderStage(const std::vector<std::string>& args, std::string& err) {
   cStage stage;
@@ -63,18 +86,7 @@ int RenderStage(const std::vector<std::string>& args, std::string& err) {
     err += "velmora-inspect: the area is x y w h in cells, w and h from 1 to " + std::to_string(kMaxStageSize) + "\n";
     return 2;
   }
-  if (!LoadPictures(err)) return 1;
-  cSurface view;
-  if (!view.CreateSurface(area.w * kCellDots, area.h * kCellDots, 32, false)) {
-    err += "velmora-inspect: no memory for the picture\n";
-    return 1;
-  }
-  RenderStageView(stage, view, area.x, area.y, cViewOptions{});
-  if (!WritePng(args[2], view.Image())) {
-    err += "velmora-inspect: cannot write " + args[2] + "\n";
-    return 1;
-  }
-  return 0;
+  return WriteArea(stage, area, cViewOptions{}, args[2], err);
 }
 
 }  // namespace velmora::inspect

@@ -398,7 +398,7 @@ void cEditorApp::CollectEndedChildren() {
   const int fd = ChildEndedFd();
   if (fd < 0) return;
   auto* notifier = new QSocketNotifier(fd, QSocketNotifier::Read, m_pHost);
-  QObject::connect(notifier, &QSocketNotifier::activated, m_pHost, [] { CollectEndedProcesses(); });
+  QObject::connect(notifier, &QSocketNotifier::activated, m_pHost, [] { TakeEndedGames(); });
 }
 
 }  // namespace velmora

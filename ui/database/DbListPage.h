@@ -1,11 +1,14 @@
 #pragma once
+#include <optional>
 #include <vector>
 
+#include "project/Database.h"
 #include "project/DatabaseListEdit.h"
 #include "ui/database/PageMaker.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/Dialog.h"
 #include "ui/list/FieldList.h"
+#include "ui/whereused/WhereUsedEntry.h"
 
 namespace velmora {
 
@@ -17,6 +20,7 @@ enum eDbPageIds {
   kIdDbClear,  // "クリア"
   kIdDbCount,  // "データ数"
   kIdDbName,   // "名称"
+  kIdDbFindUses,  // "使用箇所の検索" of the list's pop-up menu
   kIdDbPageOwn = 1120,
 };
 
@@ -25,6 +29,20 @@ inline constexpr int kDbListNumber = 1;
 inline constexpr int kDbListFamily = 0;
 // Names are at most 12 bytes.
 inline constexpr int kDbNameLimit = 12;
+
+// The database list whose rows the records of a page's kind are, for the
+// search of their uses; none for a list that nothing searched points into.
+template <class Element>
+inline constexpr std::optional<eDbList> kSearchedList = std::nullopt;
+template <> inline constexpr std::optional<eDbList> kSearchedList<cEdAnimeSet> = eDbList::AnimeSet;
+template <> inline constexpr std::optional<eDbList> kSearchedList<cEdAnime> = eDbList::Anime;
+template <> inline constexpr std::optional<eDbList> kSearchedList<cEdSwordType> = eDbList::SwordType;
+template <> inline constexpr std::optional<eDbList> kSearchedList<cEdEffect> = eDbList::Effect;
+template <> inline constexpr std::optional<eDbList> kSearchedList<cEdCharaEffect> = eDbList::CharaEffect;
+template <> inline constexpr std::optional<eDbList> kSearchedList<cEdScrEffect> = eDbList::ScrEffect;
+template <> inline constexpr std::optional<eDbList> kSearchedList<cEdPicture> = eDbList::Picture;
+template <> inline constexpr std::optional<eDbList> kSearchedList<cEdSound> = eDbList::Sound;
+template <> inline constexpr std::optional<eDbList> kSearchedList<cEdBgm> = eDbList::Bgm;
 
 // One page of the database window: the entries of a list on the left, the
 // fields of the selected entry on the right. The page edits the window's
@@ -80,7 +98,12 @@ class cDbListPage : public cDialog {
     UpdateEnables();
   }
 
-  void BindOwnControls() override { m_fields.Bind(*this, kIdDbList, kDbListNumber, kDbListFamily); }
+  void BindOwnControls() override {
+    m_fields.Bind(*this, kIdDbList, kDbListNumber, kDbListFamily);
+    if (kSearchedList<Element> && m_fields.Control()) {
+      m_fields.Control()->View().AddMenuItem({kIdDbFindUses, "使用箇所の検索"});
+    }
+  }
   void OnInitDialog() override {
     cDialog::OnInitDialog();
     AfterRecordShown();
@@ -97,12 +120,20 @@ class cDbListPage : public cDialog {
     if (id == kIdDbNew) m_fields.Run(eListCommand::Append);
     else if (id == kIdDbClear) m_fields.Run(eListCommand::Clear);
     else if (id == kIdDbCount && m_fields.Control()) m_fields.Control()->ChangeCount(m_nMost);
+    else if (id == kIdDbFindUses) FindUses();
     else if (!OnPageCommand(id)) m_fields.RunListCommand(id);
   }
 
   cFieldList<Element, cDbListEdit<Element>> m_fields;
 
  private:
+  // The uses as the files have them: the window's unsaved edits of the
+  // list don't move what records point at.
+  void FindUses() {
+    const int row = m_fields.edit.GetSel();
+    if (kSearchedList<Element> && row >= 0) ShowUsesOver(Manager(), Window(), {UseKindOf(*kSearchedList<Element>), row});
+  }
+
   int m_nMost;
 };
 

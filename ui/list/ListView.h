@@ -37,6 +37,9 @@ class cListView {
   std::function<int(const std::vector<cMenuItem>& menu, const QPoint& screen)> choosePopup = ExecMenu;
 
   const std::vector<cMenuItem>& PopupMenu() const { return m_menu; }
+  // A command of the dialog's own at the end of the pop-up menu; chosen,
+  // it goes where the menu's commands go.
+  void AddMenuItem(const cMenuItem& item) { m_menu.push_back(item); }
 
   static int ExecMenu(const std::vector<cMenuItem>& menu, const QPoint& screen) {
     QMenu popup;

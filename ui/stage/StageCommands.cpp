@@ -38,6 +38,9 @@ const std::vector<cStageCommand> kCommands = {
     {A::TestPlay, {40165, 40006, 40060, 40081}, "テストプレイ(&T)\tF5 or Ctrl+T", true, false, false},
     {A::TestPlayAll, {40133, 40131, 40134}, "ゲーム全体のテストプレイ(&G)\tF7 or Ctrl+G", false, true, false},
     {A::BitmapTool, {40061}, "ビットマップ変換ツール(&B)", false, true, false},
+    {A::WhereUsed, {40901}, "使用箇所の検索(&F)", false, true, false},
+    {A::Compare, {40902}, "比較(&D)", true, false, false},
+    {A::CompareClear, {40903}, "比較の印を消す(&X)", true, false, false},
 };
 
 struct cPopupRow {
@@ -52,8 +55,10 @@ const std::vector<cPopupRow> kPopups = {
     {"編集(&E)", {A::Undo, A::Redo, kSeparator, A::ClearAll, A::ClearBlocks, A::ClearCharas, A::ClearItems}},
     {"レイヤー(&L)", {A::LayerBlock, A::LayerChara, A::LayerItem}},
     {"表示(&V)", {A::CommonPalettes, A::StagePalettes, A::GroupWindow}},
-    {"ステージ(&S)", {A::StageSettings, kSeparator, A::LoadStagePalette, A::SaveStagePalette, kSeparator, A::StageOptions}},
-    {"プロジェクト(&P)", {A::Database, A::WorldMap, A::System, kSeparator, A::ProjectOptions}},
+    {"ステージ(&S)",
+     {A::StageSettings, kSeparator, A::LoadStagePalette, A::SaveStagePalette, kSeparator, A::StageOptions, kSeparator,
+      A::Compare, A::CompareClear}},
+    {"プロジェクト(&P)", {A::Database, A::WorldMap, A::System, kSeparator, A::ProjectOptions, kSeparator, A::WhereUsed}},
     {"テストプレイ(&T)", {A::TestPlay, A::TestPlayAll}},
     {"ツール(&O)", {A::BitmapTool}},
 };

@@ -18,6 +18,7 @@ enum class eMenuAction {
   StageSettings, LoadStagePalette, SaveStagePalette, StageOptions, EditOptions,
   Database, WorldMap, System, ProjectOptions,
   TestPlay, TestPlayAll, BitmapTool,
+  WhereUsed, Compare, CompareClear,
 };
 
 struct cStageCommand {

@@ -25,6 +25,8 @@
 #include "ui/stage/NewStageDialog.h"
 #include "ui/stagesettings/StageSettingsSheet.h"
 #include "ui/system/SystemSheet.h"
+#include "ui/stagediff/StageCompare.h"
+#include "ui/whereused/WhereUsedEntry.h"
 #include "ui/worldmap/WorldMapEntry.h"
 
 namespace velmora {
@@ -106,6 +108,8 @@ void cStageWindow::OpenPalettes() {
   InstallWorldMapEntry(*this);
   InstallProjectOptions(*this);
   InstallBitmapTool(*this);
+  InstallWhereUsedWindow(*this);
+  InstallStageCompare(*this);
 }
 
 bool cStageWindow::IsChecked(const cStageCommand& command) const {

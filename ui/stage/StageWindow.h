@@ -74,6 +74,12 @@ class cStageWindow : public cDialog {
   const cSurface& View() const { return m_view; }
   // Paints the view into the off-screen surface without showing it.
   void RenderView();
+  // Cells framed in the view until other marks replace them; the window
+  // of another stage starts without.
+  void SetMarks(std::vector<cCellFrame> marks);
+  const std::vector<cCellFrame>& Marks() const { return m_marks; }
+  // Brings the cell into view and puts the cursor on it.
+  void ShowCell(int x, int y);
 
   void Idle() override;
   bool WantsIdle() const override;
@@ -118,6 +124,7 @@ class cStageWindow : public cDialog {
   std::map<eMenuAction, cHandler> m_handlers;
   cSurface m_view;
   cCellPos m_cursor{0, 0};
+  std::vector<cCellFrame> m_marks;
   bool m_bOutsideDrag = false;
   // The six palette windows and the group window.
   std::unique_ptr<cPaletteWindows> m_pPalettes;

@@ -1,5 +1,6 @@
 #include <QGuiApplication>
 #include <QPainter>
+#include <algorithm>
 
 #include "stage/StageEdit.h"
 #include "ui/framework/DialogWindow.h"
@@ -22,7 +23,23 @@ void cStageWindow::RenderView() {
   options.preview = [&](cSurface& out) {
     DrawBrushPreview(EditStage(), StageEdit(), m_cursor, allLayers, out, ScrollX(), ScrollY());
   };
+  options.marks = m_marks;
   RenderStageView(EditStage(), m_view, ScrollX(), ScrollY(), options);
+}
+
+void cStageWindow::SetMarks(std::vector<cCellFrame> marks) {
+  m_marks = std::move(marks);
+  UpdateStates();
+  Repaint();
+}
+
+void cStageWindow::ShowCell(int x, int y) {
+  const cGeometry& geometry = Geometry();
+  const int columns = geometry.clientWidth / kCellDots, rows = geometry.clientHeight / kCellDots;
+  // The cell comes to the middle of the view, as far as the edges allow.
+  ScrollTo(std::max(0, x - columns / 2), std::max(0, y - rows / 2));
+  m_cursor = {x, y};
+  Repaint();
 }
 
 void cStageWindow::OnPaint(QPainter& painter) {

@@ -1,0 +1,24 @@
+#pragma once
+#include <string>
+#include <vector>
+
+#include "project/whereused/Use.h"
+
+namespace velmora {
+
+class cStage;
+class cPalette;
+
+// The uses that one project file holds, read through the loader of its
+// record with the loader's checks. Each gives false, with nothing added,
+// when the file can't be read whole (missing, damaged or too new).
+bool CollectCommonPaletteUses(const std::string& storedPath, std::vector<cUse>& uses);
+bool CollectStageUses(const std::string& storedPath, std::vector<cUse>& uses);
+bool CollectWorldMapUses(const std::string& storedPath, std::vector<cUse>& uses);
+bool CollectSystemUses(const std::string& storedPath, std::vector<cUse>& uses);
+
+// The same over a loaded stage: its settings, its palette and its cells.
+// Its variable names and palette stand installed while the walk reads them.
+void CollectStageRecordUses(cStage& stage, std::vector<cUse>& uses);
+
+}  // namespace velmora

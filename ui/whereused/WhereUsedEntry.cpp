@@ -1,0 +1,127 @@
+#include "ui/whereused/WhereUsedEntry.h"
+
+#include <QTimer>
+#include <algorithm>
+#include <cctype>
+#include <memory>
+
+#include "core/ProjectPaths.h"
+#include "stage/StageEdit.h"
+#include "stage/StageHooks.h"
+#include "ui/entries/OpenEntryEditor.h"
+#include "ui/framework/Commands.h"
+#include "ui/framework/WindowFrame.h"
+#include "ui/stage/StageWindow.h"
+#include "ui/whereused/WhereUsedWindow.h"
+
+namespace velmora {
+namespace {
+
+// The edit state keeps ".\" in front of a stage's path; the index doesn't.
+bool IsEditedStage(const std::string& file) {
+  std::string edited = StageEdit().m_strPath;
+  if (edited.rfind(".\\", 0) == 0) edited.erase(0, 2);
+  return edited.size() == file.size() &&
+         std::equal(edited.begin(), edited.end(), file.begin(), [](char a, char b) { return std::tolower(a) == std::tolower(b); });
+}
+
+template <class Entry>
+void EditCell(std::vector<Entry>& layer, size_t index, const std::function<void(Entry&)>& edit) {
+  if (index < layer.size() && IsOccupied(layer[index]) && edit) edit(layer[index]);
+}
+
+// Lives as long as the stage window's handler.
+struct cWhereUsedEntry {
+  explicit cWhereUsedEntry(cStageWindow& owner) : stage(owner) {}
+  // The window goes with the stage window; it comes back with the next
+  // one if the author had it open.
+  ~cWhereUsedEntry() { WhereUsedSearch().shown = window && window->IsOpen(); }
+  void Open();
+  void OpenUse(const cFoundUse& found);
+  void ShowInStage(const cFoundUse& found);
+  void RunCommand(eMenuAction action) {
+    stage.SendCommand(MakeCommand(StageCommandOf(action).ids[0], kNoticeClicked), 0);
+  }
+
+  cStageWindow& stage;
+  std::unique_ptr<cWhereUsedWindow> window;
+};
+
+void cWhereUsedEntry::Open() {
+  if (window && window->IsOpen()) {
+    window->Window()->activateWindow();
+    return;
+  }
+  window = std::make_unique<cWhereUsedWindow>(stage.Manager(), stage.Window(), WhereUsedSearch(),
+                                              [this](const cFoundUse& found) { OpenUse(found); });
+  WhereUsedSearch().shown = window->Open();
+  // Below the stage window, so the cell a use takes the author to stays in sight.
+  const QRect frame = FrameOf(*stage.Window());
+  if (window->IsOpen()) MoveFrame(*window->Window(), QPoint(frame.left(), frame.bottom() + 1));
+}
+
+void cWhereUsedEntry::OpenUse(const cFoundUse& found) {
+  const cUse& use = found.use;
+  const int kind = static_cast<int>(use.list);
+  if (found.file == PathOf(ePath::CommonPalette)) {
+    EditPaletteEntry(stage.Manager(), stage.Window(), {0, kind}, use.entry, [this](int) { stage.Repaint(); });
+  } else if (found.file == PathOf(ePath::WorldMap)) {
+    RunCommand(eMenuAction::WorldMap);
+  } else if (found.file == PathOf(ePath::System)) {
+    RunCommand(eMenuAction::System);
+  } else if (IsEditedStage(found.file)) {
+    ShowInStage(found);
+  } else {
+    // The window of the stage opened shows it; this one goes.
+    WhereUsedSearch().pending = found;
+    if (OpenStageFile(".\\" + found.file)) stage.Host().RequestRebuild();
+    else WhereUsedSearch().pending.reset();
+  }
+}
+
+void cWhereUsedEntry::ShowInStage(const cFoundUse& found) {
+  const cUse& use = found.use;
+  if (use.area == eUseArea::StageSettings) {
+    RunCommand(eMenuAction::StageSettings);
+  } else if (use.area == eUseArea::Palette) {
+    EditPaletteEntry(stage.Manager(), stage.Window(), {1, static_cast<int>(use.list)}, use.entry,
+                     [this](int) { stage.Repaint(); });
+  } else if (use.area == eUseArea::Cell) {
+    stage.ShowCell(use.x, use.y);
+    cStage& edited = EditStage();
+    const size_t index = static_cast<size_t>(edited.CellIndex(use.x, use.y));
+    cStageHooks& hooks = StageHooks();
+    if (use.list == ePaletteList::Block) EditCell(edited.m_vecBlockCell, index, hooks.editBlock);
+    if (use.list == ePaletteList::Chara) EditCell(edited.m_vecCharaCell, index, hooks.editChara);
+    if (use.list == ePaletteList::Item) EditCell(edited.m_vecItemCell, index, hooks.editItem);
+  }
+}
+
+}  // namespace
+
+void InstallWhereUsedWindow(cStageWindow& stage) {
+  auto entry = std::make_shared<cWhereUsedEntry>(stage);
+  stage.SetHandler(eMenuAction::WhereUsed, [entry] { entry->Open(); });
+  cWhereUsedSearch& search = WhereUsedSearch();
+  if (!search.shown && !search.pending) return;
+  // After the stage window has come up whole.
+  QTimer::singleShot(0, stage.Window(), [entry] {
+    cWhereUsedSearch& search = WhereUsedSearch();
+    if (search.shown) entry->Open();
+    if (!search.pending) return;
+    const cFoundUse found = *search.pending;
+    search.pending.reset();
+    if (IsEditedStage(found.file)) entry->ShowInStage(found);
+  });
+}
+
+void ShowUsesOver(cDialogManager& manager, QWidget* owner, const cUseTarget& target) {
+  cWhereUsedSearch& search = WhereUsedSearch();
+  search.kind = static_cast<int>(target.kind);
+  search.number = target.number;
+  search.Run();
+  cWhereUsedWindow window(manager, owner, search, nullptr);
+  window.DoModal(cDialog::kDisableOthers);
+}
+
+}  // namespace velmora

@@ -182,13 +182,9 @@ void cBitmapToolDialog::Convert() {
 }
 
 void cBitmapToolDialog::UpdateEnables() {
-  auto checked = [this](int id) {
-    const cCheck* check = FindControlOf<cCheck>(id);
-    return check && check->IsChecked();
-  };
-  const bool trans = checked(kIdUseTrans);
-  const bool line = checked(kIdReplaceLine);
-  const bool sameAsInput = checked(kIdSameAsInput);
+  const bool trans = IsChecked(kIdUseTrans);
+  const bool line = IsChecked(kIdReplaceLine);
+  const bool sameAsInput = IsChecked(kIdSameAsInput);
   const std::pair<int, bool> states[] = {{kIdTransColour, trans}, {kIdLineIn, line},          {kIdLineOut, line},
                                          {kIdOutFolder, !sameAsInput}, {kIdOutBrowse, !sameAsInput}};
   for (const auto& [id, enabled] : states) EnableControl(id, enabled);

@@ -317,6 +317,11 @@ void cDialog::EnableControl(int id, bool enable) {
   else if (QWidget* item = Item(id)) item->setEnabled(enable);
 }
 
+bool cDialog::IsChecked(int id) const {
+  const cCheck* check = FindControlOf<cCheck>(id);
+  return check && check->IsChecked();
+}
+
 void cDialog::SetItemText(int id, const std::string& cp932) {
   if (auto* label = qobject_cast<QLabel*>(Item(id))) label->setText(FromCp932(cp932));
 }

@@ -107,6 +107,8 @@ class cDialog {
   cControl* Control(int id) const;
   QWidget* Item(int id) const;
   void EnableControl(int id, bool enable);
+  // False also when the id holds no check box, as a rule reads it.
+  bool IsChecked(int id) const;
   void SetItemText(int id, const std::string& cp932);
   bool IsUpdating() const { return m_bUpdating; }
   const std::vector<std::unique_ptr<cControl>>& Controls() const { return m_vecControl; }

@@ -101,11 +101,6 @@ class cGeneralOptionPage : public cDialog {
   }
 
  private:
-  bool IsChecked(int id) const {
-    const cCheck* check = FindControlOf<cCheck>(id);
-    return check && check->IsChecked();
-  }
-
   PrjOption& m_work;
 };
 

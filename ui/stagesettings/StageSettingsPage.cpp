@@ -13,11 +13,6 @@ cStageSettingsPage::cStageSettingsPage(cDialogManager& manager, cStage& stage, c
   m_form.okCancel = false;  // the sheet's
 }
 
-bool cStageSettingsPage::IsChecked(int id) const {
-  const cCheck* check = FindControlOf<cCheck>(id);
-  return check && check->IsChecked();
-}
-
 double cStageSettingsPage::ShownValue(int id) const {
   cEditVal* edit = FindControlOf<cEditVal>(id);
   return edit ? edit->Entry().Clamp(edit->GetValue()) : 0;

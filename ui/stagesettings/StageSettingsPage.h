@@ -16,7 +16,6 @@ class cStageSettingsPage : public cDialog {
  protected:
   cStage& Stage() const { return m_stage; }
   // The state a check box shows, committed or not.
-  bool IsChecked(int id) const;
   // The value a numeric edit shows, within its limits; 0 without one.
   double ShownValue(int id) const;
   // The row a combo box shows; -1 without one.

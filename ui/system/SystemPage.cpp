@@ -13,11 +13,6 @@ cSystemPage::cSystemPage(cDialogManager& manager, cEdSystem& work, const char* l
 
 void cSystemPage::SetRows(std::vector<cFormRow> rows) { m_form.rows = {FormScroll(std::move(rows))}; }
 
-bool cSystemPage::IsChecked(int id) const {
-  const cCheck* check = FindControlOf<cCheck>(id);
-  return check && check->IsChecked();
-}
-
 void cSystemPage::ClearCheck(int id) {
   if (cCheck* check = FindControlOf<cCheck>(id)) check->SetChecked(false);
 }

@@ -16,7 +16,6 @@ class cSystemPage : public cDialog {
   // sheet whole.
   void SetRows(std::vector<cFormRow> rows);
   // The state a check box shows, committed or not.
-  bool IsChecked(int id) const;
   // Clears a check box as the author would; its field follows at OK.
   void ClearCheck(int id);
 

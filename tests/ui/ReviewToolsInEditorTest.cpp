@@ -10,11 +10,11 @@
 #include <utility>
 
 #include "EditorOnSample.h"
+#include "WhenEditorOpens.h"
 #include "graphics/stageview/StageView.h"
 #include "stage/Stage.h"
 #include "stage/StageDiff.h"
 #include "stage/StageEdit.h"
-#include "stage/StageHooks.h"
 #include "ui/database/DatabaseSheet.h"
 #include "ui/database/DbListPage.h"
 #include "ui/list/ListControl.h"
@@ -109,15 +109,20 @@ TEST_F(ReviewToolsInTheEditor, SearchListsTheUsesAndOpensOneInItsStage) {
   ASSERT_GE(inStage2, 0);
   const cUse use = WhereUsedSearch().results[static_cast<size_t>(inStage2)].use;
 
-  const cEdChara* edited = nullptr;
-  StageHooks().editChara = [&](cEdChara& cell) { edited = &cell; };
+  // The placed character's editor is modal: it is seen and cancelled from
+  // the event loop it runs.
+  bool edited = false;
+  WhenEditorOpens([&](cEntryEditorBase& editor) {
+    edited = editor.Place().target == kEditCell;
+    editor.Close(0);
+  });
   list->setCurrentRow(inStage2);
   ButtonOf(window, "開く")->click();
   LetARebuildHappen();
   EXPECT_EQ(".\\data\\stg4\\Stage2.stg4_950", StageEdit().m_strPath);
   EXPECT_EQ(use.x, Stage().Cursor().x);
   EXPECT_EQ(use.y, Stage().Cursor().y);
-  EXPECT_EQ(&EditStage().m_vecCharaCell[static_cast<size_t>(EditStage().CellIndex(use.x, use.y))], edited);
+  EXPECT_TRUE(edited);
   QWidget* again = TopLevelTitled("使用箇所の検索");
   ASSERT_NE(again, nullptr) << "the window comes back with the stage's window";
   EXPECT_EQ(13, again->findChild<QListWidget*>()->count());

@@ -26,14 +26,18 @@ void TellEntryOverLimit() {
 }
 
 template <class Entry>
-cEntryEditor<Entry>::cEntryEditor(cDialogManager& manager, QWidget* owner, const cEditPlace& place, bool modal)
-    : cEntryEditorBase(manager, owner, Ui(PagesOf<Entry>().title), modal), m_contextBefore(CurrentObjectContext()) {
+cEntryEditor<Entry>::cEntryEditor(cDialogManager& manager, QWidget* owner, const cEditPlace& place, bool modal,
+                                  const cEditorStart& start)
+    : cEntryEditorBase(manager, owner, Ui(PagesOf<Entry>().title), modal),
+      m_contextBefore(CurrentObjectContext()),
+      m_start(start) {
   SetObjectContext(ContextOf(static_cast<const Entry*>(nullptr)));
   if (const Entry* entry = EditedEntry<Entry>()) LoadEntryWork(m_work, *entry, place);
   const auto& pages = PagesOf<Entry>().pages;
   for (const auto& page : pages) AddPage(page.make(manager, m_work, *this), Ui(page.tab));
   const int shown = EditorConfig().m_anEditPage[kEntryKindOf<Entry>];
   SetStartPage(std::clamp(shown, 0, static_cast<int>(pages.size()) - 1));
+  SetStartControl(start.field);
 }
 
 template <class Entry>
@@ -51,6 +55,17 @@ bool cEntryEditor<Entry>::OnApply() {
   if (StoreEditedEntry(m_work.place, FinishedEntry(m_work))) return true;
   ErrorBoxText(SysText("編集中のデータが見つからないため、保存できません！"));
   return false;
+}
+
+template <class Entry>
+void cEntryEditor<Entry>::OnPagesBuilt() {
+  if (m_start.field != 0) return;
+  for (int i = 0; i < PageCount(); ++i) {
+    cEntryPage<Entry>* page = EntryPage(i);
+    if (!page || !page->ShowStart(m_start)) continue;
+    ShowPage(i);
+    return;
+  }
 }
 
 template <class Entry>

@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "objects/ObjectList.h"
+#include "ui/entries/EditorStart.h"
 #include "ui/entries/EntryPage.h"
 #include "ui/framework/Sheet.h"
 
@@ -42,7 +43,8 @@ template <class Entry>
 class cEntryEditor : public cEntryEditorBase {
  public:
   // The edit state must point at the entry of `place` (PointEditAt).
-  cEntryEditor(cDialogManager& manager, QWidget* owner, const cEditPlace& place, bool modal);
+  cEntryEditor(cDialogManager& manager, QWidget* owner, const cEditPlace& place, bool modal,
+               const cEditorStart& start = {});
   ~cEntryEditor() override;
 
   void ShowNeighbour(int step) override;
@@ -54,6 +56,7 @@ class cEntryEditor : public cEntryEditorBase {
 
  protected:
   bool OnApply() override;
+  void OnPagesBuilt() override;
 
  private:
   void ReloadPages();
@@ -61,6 +64,7 @@ class cEntryEditor : public cEntryEditorBase {
 
   cEntryWork<Entry> m_work;
   eObjectContext m_contextBefore;
+  cEditorStart m_start;
 };
 
 }  // namespace velmora

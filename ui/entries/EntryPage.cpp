@@ -66,6 +66,12 @@ void cEntryPage<Entry>::BindOwnControls() {
 }
 
 template <class Entry>
+bool cEntryPage<Entry>::ShowStart(const cEditorStart& start) {
+  if (start.flow != 0 || start.command != 0 || start.condition == 0) return false;
+  return ShowListRow(*this, kIdAppearList, m_conds, start.condition - 1);
+}
+
+template <class Entry>
 void cEntryPage<Entry>::Reload() {
   if (!IsOpen()) return;
   if (Item(kIdAppearList)) m_conds.SetData(&m_work.entry.m_vCond);

@@ -6,6 +6,7 @@
 #include "objects/Cond.h"
 #include "stage/EntryEditing.h"
 #include "ui/conditions/FormRules.h"
+#include "ui/entries/EditorStart.h"
 #include "ui/framework/Dialog.h"
 #include "graphics/Surface.h"
 
@@ -58,6 +59,10 @@ class cEntryPage : public cDialog {
   // The picture of the entry's graphic, drawn anew by the idle step after
   // a change.
   void RepaintPreview();
+  // Selects the rows of `start` in the page's lists when the page holds
+  // them; true then, and the editor brings the page to the front. This
+  // page holds the entry's own conditions where it shows them.
+  virtual bool ShowStart(const cEditorStart& start);
 
  protected:
   void BuildClient(QWidget& client) override;

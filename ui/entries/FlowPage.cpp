@@ -116,6 +116,16 @@ class cFlowPage : public cEntryPage<cEdChara> {
     ShowFlow();
   }
 
+  // The flow, and in it the command or else the condition. A condition
+  // inside a command (フローの操作) selects the command that holds it.
+  bool ShowStart(const cEditorStart& start) override {
+    if (start.flow == 0 || !ShowListRow(*this, kIdFlowList, m_flows, start.flow - 1)) return false;
+    ShowFlow();
+    if (start.command != 0) ShowListRow(*this, kIdCmdList, m_cmds, start.command - 1);
+    else if (start.condition != 0) ShowListRow(*this, kIdFlowCondList, m_conds, start.condition - 1);
+    return true;
+  }
+
  protected:
   void BindOwnControls() override {
     cEntryPage::BindOwnControls();

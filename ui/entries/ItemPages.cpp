@@ -109,6 +109,12 @@ class cEffectPage : public cEntryPage<cEdItem> {
     cEntryPage::Reload();
   }
 
+  // The item's own commands; a condition inside one selects the command.
+  bool ShowStart(const cEditorStart& start) override {
+    if (start.flow != 0 || start.command == 0) return false;
+    return ShowListRow(*this, kIdCmdList, m_cmds, start.command - 1);
+  }
+
  protected:
   void BindOwnControls() override {
     cEntryPage::BindOwnControls();

@@ -19,7 +19,8 @@ bool IsBlankEntry(const cEditPlace& place) {
 cEntryEditorBase* OpenEntryEditor() { return g_pOpenEditor; }
 
 template <class Entry>
-bool EditEntryAt(cDialogManager& manager, QWidget* owner, const cEditPlace& place, Entry* cell, cEditorClosed closed) {
+bool EditEntryAt(cDialogManager& manager, QWidget* owner, const cEditPlace& place, Entry* cell, cEditorClosed closed,
+                 const cEditorStart& start) {
   if (g_pOpenEditor || IsBlankEntry(place)) return false;
   if (!PointEditAt<Entry>(place, cell)) {
     ErrorBoxText(SysText("編集するデータがありません！"));
@@ -30,14 +31,14 @@ bool EditEntryAt(cDialogManager& manager, QWidget* owner, const cEditPlace& plac
     return false;
   }
   if (!closed) {
-    cEntryEditor<Entry> editor(manager, owner, place, true);
+    cEntryEditor<Entry> editor(manager, owner, place, true, start);
     g_pOpenEditor = &editor;
     editor.Start();
     g_pOpenEditor = nullptr;
     return true;
   }
   EnableAll(manager, false);
-  auto* editor = new cEntryEditor<Entry>(manager, owner, place, false);
+  auto* editor = new cEntryEditor<Entry>(manager, owner, place, false, start);
   g_pOpenEditor = editor;
   editor->onFinished = [&manager, closed = std::move(closed)](int result) {
     g_pOpenEditor = nullptr;
@@ -51,25 +52,27 @@ bool EditEntryAt(cDialogManager& manager, QWidget* owner, const cEditPlace& plac
 namespace {
 
 // The editor of an entry that isn't a cell, by the place's kind.
-bool EditEntryOfKind(cDialogManager& manager, QWidget* owner, const cEditPlace& place, cEditorClosed closed) {
-  if (place.kind == kKindBlock) return EditEntryAt<cEdBlock>(manager, owner, place, nullptr, std::move(closed));
-  if (place.kind == kKindChara) return EditEntryAt<cEdChara>(manager, owner, place, nullptr, std::move(closed));
-  return EditEntryAt<cEdItem>(manager, owner, place, nullptr, std::move(closed));
+bool EditEntryOfKind(cDialogManager& manager, QWidget* owner, const cEditPlace& place, cEditorClosed closed,
+                     const cEditorStart& start) {
+  if (place.kind == kKindBlock) return EditEntryAt<cEdBlock>(manager, owner, place, nullptr, std::move(closed), start);
+  if (place.kind == kKindChara) return EditEntryAt<cEdChara>(manager, owner, place, nullptr, std::move(closed), start);
+  return EditEntryAt<cEdItem>(manager, owner, place, nullptr, std::move(closed), start);
 }
 
 }  // namespace
 
-bool EditPaletteEntry(cDialogManager& manager, QWidget* owner, cPaletteSide side, int index, cEditorClosed closed) {
+bool EditPaletteEntry(cDialogManager& manager, QWidget* owner, cPaletteSide side, int index, cEditorClosed closed,
+                      const cEditorStart& start) {
   const cEditPlace place{side.stagePlt ? kEditStageEntry : kEditCommonEntry, side.kind, index};
-  return EditEntryOfKind(manager, owner, place, std::move(closed));
+  return EditEntryOfKind(manager, owner, place, std::move(closed), start);
 }
 
 bool EditDefaultEntry(cDialogManager& manager, QWidget* owner, int kind) {
-  return EditEntryOfKind(manager, owner, {kEditDefaultEntry, kind, -1}, {});
+  return EditEntryOfKind(manager, owner, {kEditDefaultEntry, kind, -1}, {}, {});
 }
 
-template bool EditEntryAt(cDialogManager&, QWidget*, const cEditPlace&, cEdBlock*, cEditorClosed);
-template bool EditEntryAt(cDialogManager&, QWidget*, const cEditPlace&, cEdChara*, cEditorClosed);
-template bool EditEntryAt(cDialogManager&, QWidget*, const cEditPlace&, cEdItem*, cEditorClosed);
+template bool EditEntryAt(cDialogManager&, QWidget*, const cEditPlace&, cEdBlock*, cEditorClosed, const cEditorStart&);
+template bool EditEntryAt(cDialogManager&, QWidget*, const cEditPlace&, cEdChara*, cEditorClosed, const cEditorStart&);
+template bool EditEntryAt(cDialogManager&, QWidget*, const cEditPlace&, cEdItem*, cEditorClosed, const cEditorStart&);
 
 }  // namespace velmora

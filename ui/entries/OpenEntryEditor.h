@@ -2,6 +2,7 @@
 #include <functional>
 
 #include "stage/EntryEditing.h"
+#include "ui/entries/EditorStart.h"
 
 class QWidget;
 
@@ -22,13 +23,16 @@ using cEditorClosed = std::function<void(int result)>;
 // `closed` the editor is modal and this returns when it closed; with it
 // the editor stays open beside the windows, which are out of reach until
 // it closes and `closed` runs. False, with a message, when the place holds
-// no entry; entry 0 of a palette opens nothing.
+// no entry; entry 0 of a palette opens nothing. The editor opens at
+// `start`.
 template <class Entry>
-bool EditEntryAt(cDialogManager& manager, QWidget* owner, const cEditPlace& place, Entry* cell, cEditorClosed closed);
+bool EditEntryAt(cDialogManager& manager, QWidget* owner, const cEditPlace& place, Entry* cell, cEditorClosed closed,
+                 const cEditorStart& start = {});
 
 // 編集 of a palette window: the editor of entry `index` of the palette,
 // beside the windows.
-bool EditPaletteEntry(cDialogManager& manager, QWidget* owner, cPaletteSide side, int index, cEditorClosed closed);
+bool EditPaletteEntry(cDialogManager& manager, QWidget* owner, cPaletteSide side, int index, cEditorClosed closed,
+                      const cEditorStart& start = {});
 
 // The editor of the project's default entry of a layer, as the project
 // options open it: modal, and nothing but that entry changes on OK.

@@ -107,6 +107,8 @@ int cSheet::Start() {
   m_bStarted = true;
   m_nResult = 0;
   Build();
+  ShowStartControl();
+  OnPagesBuilt();
   if (cDialog* page = CurrentPage()) page->OnSetActive();
   if (m_bModal) {
     m_pDialog->exec();
@@ -116,6 +118,21 @@ int cSheet::Start() {
   m_manager.AddSheet(this);
   m_pWindow->show();
   return 1;
+}
+
+void cSheet::ShowPage(int index) {
+  if (m_pTabs && Page(index)) m_pTabs->setCurrentIndex(index);
+}
+
+void cSheet::ShowStartControl() {
+  if (m_nStartControl == 0) return;
+  for (int index = 0; index < PageCount(); ++index) {
+    QWidget* control = Page(index)->Item(m_nStartControl);
+    if (!control) continue;
+    ShowPage(index);
+    control->setFocus();
+    return;
+  }
 }
 
 bool cSheet::ApplyEveryPage() {

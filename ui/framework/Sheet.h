@@ -31,6 +31,12 @@ class cSheet {
   void AddPage(std::unique_ptr<cDialog> page, const QString& tabTitle);
   // The page in front when the sheet opens; before Start.
   void SetStartPage(int index) { m_nStartPage = index; }
+  // The page that holds control `id` comes to the front with the control
+  // in the focus, over the start page; before Start. An id no page holds
+  // leaves the start page.
+  void SetStartControl(int id) { m_nStartControl = id; }
+  // Brings a page to the front of a sheet that is open.
+  void ShowPage(int index);
   // Modal: runs to the end and gives 1 for OK, 0 for Cancel. Modeless:
   // shows the sheet and gives 1; the manager deletes a modeless sheet
   // once the author closed it.
@@ -62,12 +68,16 @@ class cSheet {
  protected:
   // After all pages applied: saving what the pages changed.
   virtual bool OnApply() { return true; }
+  // The pages stand with their controls bound, before the sheet shows:
+  // where a subclass points them at a place of their records.
+  virtual void OnPagesBuilt() {}
   // Every page stores its fields and runs its own apply, in page order;
   // false at the first page that refuses.
   bool ApplyEveryPage();
 
  private:
   void Build();
+  void ShowStartControl();
   void ScalePages() const;
 
   cDialogManager& m_manager;
@@ -78,6 +88,7 @@ class cSheet {
   bool m_bChanged = false;
   int m_nResult = 0;
   int m_nStartPage = 0;
+  int m_nStartControl = 0;
   // Held as a QWidget: the manager may ask about the window while it is
   // being destroyed, when it is no longer a QDialog.
   QPointer<QWidget> m_pWindow;

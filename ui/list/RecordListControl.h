@@ -93,4 +93,17 @@ cRecordListControl<Element>* BindRecordList(cDialog& dialog, const cRecordListId
   return raw;
 }
 
+// Selects row `row` (from 0) of the list of `id`, loads its working
+// record and brings the row into view, as when a caller takes the author
+// to one record; false when the list has no such row.
+template <class Element>
+bool ShowListRow(cDialog& dialog, int id, cListEdit<Element>& edit, int row) {
+  auto* control = dialog.FindControlOf<cListControl<Element>>(id);
+  if (!control || !edit.IsRealRow(row)) return false;
+  edit.SelectOnly(row, true);
+  control->View().Show();
+  if (auto* widget = qobject_cast<QListWidget*>(dialog.Item(id))) widget->scrollToItem(widget->item(row));
+  return true;
+}
+
 }  // namespace velmora

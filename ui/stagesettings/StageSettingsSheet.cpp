@@ -6,6 +6,7 @@
 #include "ui/framework/DialogManager.h"
 #include "ui/stage/StageWindow.h"
 #include "ui/stagesettings/StageOptionsDialog.h"
+#include "ui/stagesettings/StageSettingsIds.h"
 #include "ui/stagesettings/StageSettingsPage.h"
 
 namespace velmora {
@@ -26,17 +27,6 @@ void TakeOverAfterSettings(cStageWindow& stage) {
   stage.UpdateStates();
 }
 
-void OpenStageSettings(cStageWindow& stage) {
-  cDialogManager& manager = stage.Manager();
-  ShowAll(manager, false);
-  EnableAll(manager, false);
-  {
-    cStageSettingsSheet sheet(manager, stage.Window());
-    sheet.Start();
-  }
-  TakeOverAfterSettings(stage);
-}
-
 void OpenStageOptions(cStageWindow& stage) {
   cStageOptionsDialog dialog(stage.Manager(), stage.Window());
   dialog.DoModal(cDialog::kDisableOthers);
@@ -49,6 +39,20 @@ void OpenEditOptions(cStageWindow& stage) {
 }
 
 }  // namespace
+
+void OpenStageSettings(cStageWindow& stage, int startControl) {
+  cDialogManager& manager = stage.Manager();
+  ShowAll(manager, false);
+  EnableAll(manager, false);
+  {
+    cStageSettingsSheet sheet(manager, stage.Window());
+    sheet.SetStartControl(startControl);
+    sheet.Start();
+  }
+  TakeOverAfterSettings(stage);
+}
+
+int StageSettingsControlOfField(const std::string& label) { return label == "BGM" ? kIdBgm : 0; }
 
 cStageSettingsSheet::cStageSettingsSheet(cDialogManager& manager, QWidget* owner)
     : cSheet(manager, owner, QString::fromUtf8("ステージの設定"), true) {

@@ -1,4 +1,6 @@
 #pragma once
+#include <string>
+
 #include "ui/framework/Sheet.h"
 
 namespace velmora {
@@ -16,6 +18,13 @@ class cStageSettingsSheet : public cSheet {
  protected:
   bool OnApply() override;
 };
+
+// Opens the sheet over the stage window and runs it to its end; with
+// `startControl` on the page that holds that control.
+void OpenStageSettings(cStageWindow& stage, int startControl = 0);
+// The control of a field as the search of uses names it ("BGM"); 0 for a
+// label no page shows.
+int StageSettingsControlOfField(const std::string& label);
 
 // The menu entries of the stage window that open the settings sheet and
 // the stage and edit option dialogs.

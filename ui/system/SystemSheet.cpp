@@ -1,8 +1,10 @@
 #include "ui/system/SystemSheet.h"
 
+#include "project/SystemLabels.h"
 #include "project/SystemSave.h"
 #include "ui/framework/Dialog.h"
 #include "ui/stage/StageWindow.h"
+#include "ui/system/SystemPageIds.h"
 #include "ui/system/SystemPages.h"
 
 namespace velmora {
@@ -28,9 +30,17 @@ cSystemSheet::cSystemSheet(cDialogManager& manager, QWidget* owner)
 // page whose own apply reads what a later page stores sees it stored.
 bool cSystemSheet::OnApply() { return ApplyEveryPage() && SaveSystemSettings(m_work); }
 
-void OpenSystemWindow(cDialogManager& manager, QWidget* owner) {
+void OpenSystemWindow(cDialogManager& manager, QWidget* owner, int startControl) {
   auto sheet = std::make_unique<cSystemSheet>(manager, owner);
+  sheet->SetStartControl(startControl);
   sheet->Start();
+}
+
+int SystemControlOfField(const std::string& label) {
+  for (int screen = 0; screen < SystemBgmTable.Size(); ++screen) {
+    if (label == std::string("BGM ") + SystemBgmTable.Label(screen)) return kIdBgm + screen;
+  }
+  return 0;
 }
 
 void InstallSystemWindow(cStageWindow& stage) {

@@ -1,4 +1,6 @@
 #pragma once
+#include <string>
+
 #include "project/SystemRecord.h"
 #include "ui/framework/Sheet.h"
 
@@ -22,8 +24,12 @@ class cSystemSheet : public cSheet {
   cEdSystem m_work;
 };
 
-// Opens the window and runs it to its end.
-void OpenSystemWindow(cDialogManager& manager, QWidget* owner);
+// Opens the window and runs it to its end; with `startControl` on the
+// page that holds that control.
+void OpenSystemWindow(cDialogManager& manager, QWidget* owner, int startControl = 0);
+// The control of a field as the search of uses names it ("BGM" and the
+// screen, CP932); 0 for a label no page shows.
+int SystemControlOfField(const std::string& label);
 // The menu entry "システム(&S)" of the stage window opens it.
 void InstallSystemWindow(cStageWindow& stage);
 

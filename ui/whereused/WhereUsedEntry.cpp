@@ -7,11 +7,13 @@
 
 #include "core/ProjectPaths.h"
 #include "stage/StageEdit.h"
-#include "stage/StageHooks.h"
 #include "ui/entries/OpenEntryEditor.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/WindowFrame.h"
 #include "ui/stage/StageWindow.h"
+#include "ui/stagesettings/StageSettingsSheet.h"
+#include "ui/system/SystemSheet.h"
+#include "ui/whereused/EntryStartOfUse.h"
 #include "ui/whereused/WhereUsedWindow.h"
 
 namespace velmora {
@@ -25,9 +27,13 @@ bool IsEditedStage(const std::string& file) {
          std::equal(edited.begin(), edited.end(), file.begin(), [](char a, char b) { return std::tolower(a) == std::tolower(b); });
 }
 
+// A placed object's editor is modal, as a double click on the cell opens it.
 template <class Entry>
-void EditCell(std::vector<Entry>& layer, size_t index, const std::function<void(Entry&)>& edit) {
-  if (index < layer.size() && IsOccupied(layer[index]) && edit) edit(layer[index]);
+void EditCell(cStageWindow& stage, std::vector<Entry>& layer, size_t index, const cEditorStart& start) {
+  if (index >= layer.size() || !IsOccupied(layer[index])) return;
+  const cEditPlace place{kEditCell, kEntryKindOf<Entry>, -1};
+  EditEntryAt<Entry>(stage.Manager(), stage.Window(), place, &layer[index], {}, start);
+  stage.Repaint();
 }
 
 // Lives as long as the stage window's handler.
@@ -41,6 +47,10 @@ struct cWhereUsedEntry {
   void ShowInStage(const cFoundUse& found);
   void RunCommand(eMenuAction action) {
     stage.SendCommand(MakeCommand(StageCommandOf(action).ids[0], kNoticeClicked), 0);
+  }
+  void EditPaletteUse(cPaletteSide side, const cUse& use) {
+    EditPaletteEntry(stage.Manager(), stage.Window(), side, use.entry, [this](int) { stage.Repaint(); },
+                     EntryStartOfUse(use));
   }
 
   cStageWindow& stage;
@@ -64,11 +74,11 @@ void cWhereUsedEntry::OpenUse(const cFoundUse& found) {
   const cUse& use = found.use;
   const int kind = static_cast<int>(use.list);
   if (found.file == PathOf(ePath::CommonPalette)) {
-    EditPaletteEntry(stage.Manager(), stage.Window(), {0, kind}, use.entry, [this](int) { stage.Repaint(); });
+    EditPaletteUse({0, kind}, use);
   } else if (found.file == PathOf(ePath::WorldMap)) {
     RunCommand(eMenuAction::WorldMap);
   } else if (found.file == PathOf(ePath::System)) {
-    RunCommand(eMenuAction::System);
+    OpenSystemWindow(stage.Manager(), stage.Window(), SystemControlOfField(use.what));
   } else if (IsEditedStage(found.file)) {
     ShowInStage(found);
   } else {
@@ -82,18 +92,17 @@ void cWhereUsedEntry::OpenUse(const cFoundUse& found) {
 void cWhereUsedEntry::ShowInStage(const cFoundUse& found) {
   const cUse& use = found.use;
   if (use.area == eUseArea::StageSettings) {
-    RunCommand(eMenuAction::StageSettings);
+    OpenStageSettings(stage, StageSettingsControlOfField(use.what));
   } else if (use.area == eUseArea::Palette) {
-    EditPaletteEntry(stage.Manager(), stage.Window(), {1, static_cast<int>(use.list)}, use.entry,
-                     [this](int) { stage.Repaint(); });
+    EditPaletteUse({1, static_cast<int>(use.list)}, use);
   } else if (use.area == eUseArea::Cell) {
     stage.ShowCell(use.x, use.y);
     cStage& edited = EditStage();
     const size_t index = static_cast<size_t>(edited.CellIndex(use.x, use.y));
-    cStageHooks& hooks = StageHooks();
-    if (use.list == ePaletteList::Block) EditCell(edited.m_vecBlockCell, index, hooks.editBlock);
-    if (use.list == ePaletteList::Chara) EditCell(edited.m_vecCharaCell, index, hooks.editChara);
-    if (use.list == ePaletteList::Item) EditCell(edited.m_vecItemCell, index, hooks.editItem);
+    const cEditorStart start = EntryStartOfUse(use);
+    if (use.list == ePaletteList::Block) EditCell(stage, edited.m_vecBlockCell, index, start);
+    if (use.list == ePaletteList::Chara) EditCell(stage, edited.m_vecCharaCell, index, start);
+    if (use.list == ePaletteList::Item) EditCell(stage, edited.m_vecItemCell, index, start);
   }
 }
 

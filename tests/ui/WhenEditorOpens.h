@@ -9,20 +9,41 @@
 
 namespace velmora::testing {
 
-// Runs `step` on the entry editor once one is open: a modal editor is
+// Runs `step` on what `find` finds once it is there, and on the entry
+// editor once one is open: a modal editor is
 // seen from the event loop it runs, however many loops (a stage loading)
 // come before it. Gives up after a few seconds.
-inline void WhenEditorOpens(std::function<void(cEntryEditorBase& editor)> step) {
+template <class Thing>
+void WhenThere(std::function<Thing*()> find, std::function<void(Thing&)> step) {
   auto* poll = new QTimer(qApp);
   auto tries = std::make_shared<int>(0);
-  QObject::connect(poll, &QTimer::timeout, [poll, tries, step] {
-    cEntryEditorBase* editor = OpenEntryEditor();
-    if (!editor && ++*tries < 250) return;
+  QObject::connect(poll, &QTimer::timeout, [poll, tries, find, step] {
+    Thing* thing = find();
+    if (!thing && ++*tries < 250) return;
     poll->stop();
     poll->deleteLater();
-    if (editor) step(*editor);
+    if (thing) step(*thing);
   });
   poll->start(20);
+}
+
+inline void WhenEditorOpens(std::function<void(cEntryEditorBase& editor)> step) {
+  WhenThere<cEntryEditorBase>(OpenEntryEditor, std::move(step));
+}
+
+// The same for a window of the title `utf8` shown, a modal one or a
+// pop-up menu's.
+inline QWidget* ShownWindow(const char* utf8) {
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (widget->isVisible() && widget->windowTitle() == QString::fromUtf8(utf8)) return widget;
+  }
+  return nullptr;
+}
+inline void WhenWindowShows(const char* utf8, std::function<void(QWidget& window)> step) {
+  WhenThere<QWidget>([utf8] { return ShownWindow(utf8); }, std::move(step));
+}
+inline void WhenPopupShows(std::function<void(QWidget& popup)> step) {
+  WhenThere<QWidget>(QApplication::activePopupWidget, std::move(step));
 }
 
 }  // namespace velmora::testing

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTabWidget>
@@ -13,6 +14,7 @@
 #include "objects/CmdTable.h"
 #include "objects/CondTables.h"
 #include "stage/Stage.h"
+#include "ui/conditions/CondIds.h"
 #include "ui/whereused/WhereUsedSearch.h"
 
 namespace velmora::testing {
@@ -23,12 +25,7 @@ constexpr int kSearchedVar = 7;
 constexpr int kFlowPage = 3;    // 行動 of the character editor
 constexpr int kEffectPage = 1;  // 効果 of the item editor
 
-QWidget* TopLevelTitled(const char* utf8) {
-  for (QWidget* widget : QApplication::topLevelWidgets()) {
-    if (widget->isVisible() && widget->windowTitle() == QString::fromUtf8(utf8)) return widget;
-  }
-  return nullptr;
-}
+QWidget* TopLevelTitled(const char* utf8) { return ShownWindow(utf8); }
 
 QPushButton* ButtonOf(QWidget* window, const char* utf8) {
   for (QPushButton* button : window->findChildren<QPushButton*>()) {
@@ -177,6 +174,46 @@ TEST_F(WhereUsedRoads, AUseInACellOpensItsModalEditorAtTheUse) {
   const cUse use = OpenUse({eUseKind::Chara, 2}, [](const cUse& use) { return use.area == eUseArea::Cell; });
   EXPECT_TRUE(checked);
   EXPECT_EQ(use.x, Stage().Cursor().x);
+  Save();
+  EXPECT_EQ(before, Files());
+}
+
+// The coin's second condition names the variable: "_" beside it in the
+// condition's dialog lists the variable's uses, right-clicked.
+TEST_F(WhereUsedRoads, TheRenameButtonsMenuListsTheUsesOfTheVariableItStandsBeside) {
+  OpenFromPalette({0, kKindItem}, 1);
+  ShowPage(0);
+  ListAt(Front(), kIdAppearList)->setCurrentRow(1);
+  bool offered = false;
+  int listed = -1;
+  InModal([&](cDialog& condition) {
+    QWidget* rename = condition.Item(kIdCondLeftVarName);
+    ASSERT_NE(rename, nullptr);
+    WhenPopupShows([&](QWidget& popup) {
+      auto* menu = qobject_cast<QMenu*>(&popup);
+      offered = menu && menu->actions().size() == 1 && menu->actions()[0]->text() == QString::fromUtf8("使用箇所の検索");
+      WhenWindowShows("使用箇所の検索", [&](QWidget& window) {
+        listed = window.findChild<QListWidget*>()->count();
+        QTest::keyClick(&window, Qt::Key_Escape);
+      });
+      if (!offered) {
+        popup.close();
+        return;
+      }
+      menu->setActiveAction(menu->actions()[0]);
+      QTest::keyClick(menu, Qt::Key_Return);
+    });
+    emit rename->customContextMenuRequested(QPoint(2, 2));
+    QTest::keyClick(condition.Window(), Qt::Key_Escape);
+  });
+  Click(Front(), kIdAppearEdit);
+  EXPECT_TRUE(offered);
+  EXPECT_EQ(static_cast<int>(eUseKind::VarCommon), WhereUsedSearch().kind);
+  EXPECT_EQ(kSearchedVar, WhereUsedSearch().number);
+  EXPECT_EQ(static_cast<int>(WhereUsedSearch().results.size()), listed);
+  EXPECT_GE(listed, 4) << "at least the slime's two and the coin's two";
+  const std::vector<uint8_t> before = Files();
+  PressCancel();
   Save();
   EXPECT_EQ(before, Files());
 }

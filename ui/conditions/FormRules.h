@@ -14,6 +14,7 @@
 #include "ui/framework/Commands.h"
 #include "ui/framework/Dialog.h"
 #include "ui/framework/QtPrompt.h"
+#include "ui/whereused/VariableUsesMenu.h"
 
 namespace velmora {
 
@@ -74,6 +75,9 @@ class cFormRules {
     m_shownRows.clear();
     m_appliedRanges.clear();
     FitRuledWidgets();
+    for (const auto& rule : m_rules.renames) {
+      OfferVariableUses(m_dialog, rule.button, rule.combo, [&work, scope = rule.scope] { return scope(work); });
+    }
     Follow(work);
   }
 

@@ -19,6 +19,7 @@
 #include "ui/framework/QtText.h"
 #include "ui/framework/StockDialogs.h"
 #include "ui/palette/SurfaceImage.h"
+#include "ui/whereused/VariableUsesMenu.h"
 
 namespace velmora {
 namespace {
@@ -142,6 +143,8 @@ void cWorldEventDialog::BindOwnControls() {
   for (int id : {kIdCondVarName, kIdVarVarName}) {
     if (QWidget* button = Item(id)) button->setFixedWidth(button->fontMetrics().height() * 2);
   }
+  OfferVariableUses(*this, kIdCondVarName, kIdCondVar, [] { return static_cast<int>(kScopeCommon); });
+  OfferVariableUses(*this, kIdVarVarName, kIdVarVar, [] { return static_cast<int>(kScopeCommon); });
 }
 
 void cWorldEventDialog::OnCommand(uint32_t wParam, intptr_t lParam) {

@@ -17,6 +17,7 @@
 #include "stage/StageEdit.h"
 #include "ui/database/DatabaseSheet.h"
 #include "ui/database/DbListPage.h"
+#include "ui/entries/EntryIds.h"
 #include "ui/list/ListControl.h"
 #include "ui/whereused/WhereUsedSearch.h"
 
@@ -36,12 +37,7 @@ cCells MarkedCells(const std::vector<cCellFrame>& marks) {
   return cells;
 }
 
-QWidget* TopLevelTitled(const char* utf8) {
-  for (QWidget* widget : QApplication::topLevelWidgets()) {
-    if (widget->isVisible() && widget->windowTitle() == QString::fromUtf8(utf8)) return widget;
-  }
-  return nullptr;
-}
+QWidget* TopLevelTitled(const char* utf8) { return ShownWindow(utf8); }
 
 QPushButton* ButtonOf(QWidget* window, const char* utf8) {
   for (QPushButton* button : window->findChildren<QPushButton*>()) {
@@ -129,8 +125,9 @@ TEST_F(ReviewToolsInTheEditor, SearchListsTheUsesAndOpensOneInItsStage) {
 }
 
 // Every character of the sample uses animation set 0; the database
-// window's list offers the search and shows the uses over itself.
-TEST_F(ReviewToolsInTheEditor, TheDatabaseListsPopupMenuListsTheUsesOfARow) {
+// window's list offers the search and shows the uses over itself. Opening
+// one closes the database window as its OK does, then opens the use.
+TEST_F(ReviewToolsInTheEditor, TheDatabaseListsPopupMenuFindsTheUsesOfARowAndOpensOne) {
   Command(Stage(), kDatabaseMenu);
   cDatabaseSheet* sheet = OpenDatabaseSheet();
   ASSERT_NE(sheet, nullptr);
@@ -144,18 +141,13 @@ TEST_F(ReviewToolsInTheEditor, TheDatabaseListsPopupMenuListsTheUsesOfARow) {
     return offered ? menu.back().command : 0;
   };
   int listed = -1;
-  bool canOpen = true;
-  // The window is modal: it is read and closed from the event loop it runs.
-  QTimer poll;
-  QObject::connect(&poll, &QTimer::timeout, [&] {
-    QWidget* window = TopLevelTitled("使用箇所の検索");
-    if (!window) return;
-    poll.stop();
-    listed = window->findChild<QListWidget*>()->count();
-    canOpen = ButtonOf(window, "開く")->isEnabled();
-    QTest::keyClick(window, Qt::Key_Escape);
+  // The window is modal: it is read and left from the event loop it runs.
+  WhenModalShows("使用箇所の検索", [&](QWidget& window) {
+    auto* results = window.findChild<QListWidget*>();
+    listed = results->count();
+    results->setCurrentRow(0);
+    ButtonOf(&window, "開く")->click();
   });
-  poll.start(20);
   auto* list = qobject_cast<QListWidget*>(page.Item(kIdDbList));
   list->setCurrentRow(0);
   emit list->customContextMenuRequested(list->visualItemRect(list->item(0)).center());
@@ -163,9 +155,17 @@ TEST_F(ReviewToolsInTheEditor, TheDatabaseListsPopupMenuListsTheUsesOfARow) {
   EXPECT_EQ(static_cast<int>(eUseKind::AnimeSet), WhereUsedSearch().kind);
   EXPECT_EQ(0, WhereUsedSearch().number);
   EXPECT_EQ(static_cast<int>(WhereUsedSearch().results.size()), listed);
-  EXPECT_GT(listed, 0);
-  EXPECT_FALSE(canOpen) << "a use opens once the database window has closed";
-  sheet->Close(0);
+  ASSERT_GT(listed, 0);
+  const cUse first = WhereUsedSearch().results[0].use;
+  ASSERT_EQ(eUseArea::Palette, first.area) << "the common palette's uses come first";
+  QTest::qWait(100);
+  EXPECT_EQ(nullptr, OpenDatabaseSheet()) << "the database window closed";
+  EXPECT_TRUE(Stage().Window()->isVisible());
+  cEntryEditorBase* editor = OpenEntryEditor();
+  ASSERT_NE(editor, nullptr);
+  EXPECT_EQ(first.entry, editor->Place().index);
+  EXPECT_EQ(editor->CurrentPage()->Item(kIdAnimeSet), editor->Window()->focusWidget());
+  editor->Close(0);
   QCoreApplication::processEvents();
 }
 

@@ -9,8 +9,7 @@
 
 namespace velmora::testing {
 
-// Runs `step` on what `find` finds once it is there, and on the entry
-// editor once one is open: a modal editor is
+// Runs `step` on what `find` finds once it is there: a modal window is
 // seen from the event loop it runs, however many loops (a stage loading)
 // come before it. Gives up after a few seconds.
 template <class Thing>
@@ -27,20 +26,26 @@ void WhenThere(std::function<Thing*()> find, std::function<void(Thing&)> step) {
   poll->start(20);
 }
 
+// The entry editor, once one is open.
 inline void WhenEditorOpens(std::function<void(cEntryEditorBase& editor)> step) {
   WhenThere<cEntryEditorBase>(OpenEntryEditor, std::move(step));
 }
 
-// The same for a window of the title `utf8` shown, a modal one or a
-// pop-up menu's.
+// A window of the title `utf8` that is shown; the same for the modal
+// window of that title and for a pop-up menu.
 inline QWidget* ShownWindow(const char* utf8) {
   for (QWidget* widget : QApplication::topLevelWidgets()) {
     if (widget->isVisible() && widget->windowTitle() == QString::fromUtf8(utf8)) return widget;
   }
   return nullptr;
 }
-inline void WhenWindowShows(const char* utf8, std::function<void(QWidget& window)> step) {
-  WhenThere<QWidget>([utf8] { return ShownWindow(utf8); }, std::move(step));
+inline void WhenModalShows(const char* utf8, std::function<void(QWidget& window)> step) {
+  WhenThere<QWidget>(
+      [utf8] {
+        QWidget* modal = QApplication::activeModalWidget();
+        return modal && modal->windowTitle() == QString::fromUtf8(utf8) ? modal : nullptr;
+      },
+      std::move(step));
 }
 inline void WhenPopupShows(std::function<void(QWidget& popup)> step) {
   WhenThere<QWidget>(QApplication::activePopupWidget, std::move(step));

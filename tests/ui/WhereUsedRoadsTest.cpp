@@ -192,7 +192,7 @@ TEST_F(WhereUsedRoads, TheRenameButtonsMenuListsTheUsesOfTheVariableItStandsBesi
     WhenPopupShows([&](QWidget& popup) {
       auto* menu = qobject_cast<QMenu*>(&popup);
       offered = menu && menu->actions().size() == 1 && menu->actions()[0]->text() == QString::fromUtf8("使用箇所の検索");
-      WhenWindowShows("使用箇所の検索", [&](QWidget& window) {
+      WhenModalShows("使用箇所の検索", [&](QWidget& window) {
         listed = window.findChild<QListWidget*>()->count();
         QTest::keyClick(&window, Qt::Key_Escape);
       });

@@ -82,6 +82,12 @@ void InstallDatabaseWindow(cStageWindow& stage) {
   });
 }
 
+bool FinishDatabaseSheet() {
+  if (!g_pOpenSheet || !g_pOpenSheet->ApplyPages()) return false;
+  g_pOpenSheet->Close(1);
+  return true;
+}
+
 cDatabaseSheet* OpenDatabaseSheet() { return g_pOpenSheet; }
 
 }  // namespace velmora

@@ -29,6 +29,11 @@ class cDatabaseSheet : public cSheet {
 // the new lists.
 void InstallDatabaseWindow(cStageWindow& stage);
 
+// OK of the open sheet, as its button: every page applies, the lists are
+// written and the sheet closes. False, with the sheet open, when a page
+// refuses or no sheet is open.
+bool FinishDatabaseSheet();
+
 // The sheet that is open, or null; for tests and the idle pacing.
 cDatabaseSheet* OpenDatabaseSheet();
 

@@ -4,6 +4,7 @@
 
 #include "project/Database.h"
 #include "project/DatabaseListEdit.h"
+#include "ui/database/DatabaseSheet.h"
 #include "ui/database/PageMaker.h"
 #include "ui/framework/Commands.h"
 #include "ui/framework/Dialog.h"
@@ -128,10 +129,12 @@ class cDbListPage : public cDialog {
 
  private:
   // The uses as the files have them: the window's unsaved edits of the
-  // list don't move what records point at.
+  // list don't move what records point at. Opening a use closes the
+  // window through its OK, which writes those edits.
   void FindUses() {
     const int row = m_fields.edit.GetSel();
-    if (kSearchedList<Element> && row >= 0) ShowUsesOver(Manager(), Window(), {UseKindOf(*kSearchedList<Element>), row});
+    if (!kSearchedList<Element> || row < 0) return;
+    ShowUsesOver(Manager(), Window(), {UseKindOf(*kSearchedList<Element>), row}, FinishDatabaseSheet);
   }
 
   int m_nMost;

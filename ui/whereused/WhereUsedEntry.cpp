@@ -1,9 +1,11 @@
 #include "ui/whereused/WhereUsedEntry.h"
 
+#include <QCoreApplication>
 #include <QTimer>
 #include <algorithm>
 #include <cctype>
 #include <memory>
+#include <optional>
 
 #include "core/ProjectPaths.h"
 #include "stage/StageEdit.h"
@@ -106,10 +108,14 @@ void cWhereUsedEntry::ShowInStage(const cFoundUse& found) {
   }
 }
 
+// The entry of the stage window that stands, for the searches of other windows.
+std::weak_ptr<cWhereUsedEntry> g_entry;
+
 }  // namespace
 
 void InstallWhereUsedWindow(cStageWindow& stage) {
   auto entry = std::make_shared<cWhereUsedEntry>(stage);
+  g_entry = entry;
   stage.SetHandler(eMenuAction::WhereUsed, [entry] { entry->Open(); });
   cWhereUsedSearch& search = WhereUsedSearch();
   if (!search.shown && !search.pending) return;
@@ -124,13 +130,29 @@ void InstallWhereUsedWindow(cStageWindow& stage) {
   });
 }
 
-void ShowUsesOver(cDialogManager& manager, QWidget* owner, const cUseTarget& target) {
+void ShowUsesOver(cDialogManager& manager, QWidget* owner, const cUseTarget& target, std::function<bool()> leaveOwner) {
   cWhereUsedSearch& search = WhereUsedSearch();
   search.kind = static_cast<int>(target.kind);
   search.number = target.number;
   search.Run();
-  cWhereUsedWindow window(manager, owner, search, nullptr);
+  std::optional<cFoundUse> chosen;
+  cWhereUsedWindow* shown = nullptr;
+  cWhereUsedWindow::cOpenUse open;
+  if (leaveOwner) {
+    open = [&chosen, &shown](const cFoundUse& found) {
+      chosen = found;
+      shown->Close(0);
+    };
+  }
+  cWhereUsedWindow window(manager, owner, search, std::move(open));
+  shown = &window;
   window.DoModal(cDialog::kDisableOthers);
+  if (!chosen) return;
+  // The owner's call is still under way: its window closes once it ended.
+  QTimer::singleShot(0, qApp, [found = *chosen, leaveOwner = std::move(leaveOwner)] {
+    const std::shared_ptr<cWhereUsedEntry> entry = g_entry.lock();
+    if (entry && leaveOwner()) entry->OpenUse(found);
+  });
 }
 
 }  // namespace velmora

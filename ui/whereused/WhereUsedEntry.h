@@ -1,4 +1,5 @@
 #pragma once
+#include <functional>
 
 #include "project/whereused/UseTarget.h"
 
@@ -15,10 +16,14 @@ class cStageWindow;
 // with the window of the stage opened.
 void InstallWhereUsedWindow(cStageWindow& stage);
 
-// The uses of `target` in the window, modal over `owner` (the database
-// window, which keeps the author to itself): a use is opened from the
-// search of the project menu once that window has closed, where the
-// results wait.
-void ShowUsesOver(cDialogManager& manager, QWidget* owner, const cUseTarget& target);
+// The uses of `target` in the window, modal over `owner`, a window that
+// keeps the author to itself. With `leaveOwner`, a use opens: the window
+// goes, and once the owner's call has ended `leaveOwner` closes the owner
+// as its OK does and the use opens; an owner that stays open (a page
+// refused its OK) keeps the author where they are. Without it the uses are
+// only listed, and the search of the project menu, where the results
+// wait, opens them once the owner has closed.
+void ShowUsesOver(cDialogManager& manager, QWidget* owner, const cUseTarget& target,
+                  std::function<bool()> leaveOwner = {});
 
 }  // namespace velmora

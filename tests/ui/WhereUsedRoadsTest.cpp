@@ -13,9 +13,13 @@
 #include "WhenEditorOpens.h"
 #include "objects/CmdTable.h"
 #include "objects/CondTables.h"
+#include "core/ProjectPaths.h"
+#include "project/WorldEditState.h"
+#include "project/WorldMap.h"
 #include "stage/Stage.h"
 #include "ui/conditions/CondIds.h"
 #include "ui/whereused/WhereUsedSearch.h"
+#include "ui/worldmap/WorldMapWindow.h"
 
 namespace velmora::testing {
 namespace {
@@ -216,6 +220,52 @@ TEST_F(WhereUsedRoads, TheRenameButtonsMenuListsTheUsesOfTheVariableItStandsBesi
   PressCancel();
   Save();
   EXPECT_EQ(before, Files());
+}
+
+// A world map event's condition opens the world map on the event; the
+// sample's title music, a field of the system settings, opens them on the
+// page of that field, and the stage's music the stage settings on theirs.
+TEST_F(WhereUsedRoads, UsesOutsideTheEntriesOpenTheirWindowsAtThePlace) {
+  cEdWorldEvent& event = WorldMap().m_vecEvents.back();
+  event.m_vecPages[0].m_iCondVar = kSearchedVar;
+  ASSERT_TRUE(WorldMap().SaveFile(PathOf(ePath::WorldMap)));
+  OpenUse({eUseKind::VarCommon, kSearchedVar}, [](const cUse& use) { return use.area == eUseArea::WorldMap; });
+  cWorldMapWindow* map = nullptr;
+  for (cDialog* dialog : app->Manager().Windows()) {
+    if (auto* window = dynamic_cast<cWorldMapWindow*>(dialog); window && window->IsOpen()) map = window;
+  }
+  ASSERT_NE(map, nullptr);
+  EXPECT_EQ(kWorldEventMode, WorldEdit().m_iMode);
+  EXPECT_EQ(event.m_iX, map->Cursor().x);
+  EXPECT_EQ(event.m_iY, map->Cursor().y);
+  map->AskClose();
+
+  int shownPage = -1;
+  bool onMusic = false;
+  WhenModalShows("システムの設定", [&](QWidget& sheet) {
+    shownPage = sheet.findChild<QTabWidget*>()->currentIndex();
+    onMusic = qobject_cast<QComboBox*>(sheet.focusWidget()) != nullptr;
+    QTest::keyClick(&sheet, Qt::Key_Escape);
+  });
+  const std::vector<uint8_t> system = ReadBytes("data/System.dat");
+  OpenUse({eUseKind::Bgm, 1}, [](const cUse& use) { return use.area == eUseArea::System; });
+  EXPECT_EQ(2, shownPage) << "the music stands on page 3";
+  EXPECT_TRUE(onMusic);
+  EXPECT_EQ(system, ReadBytes("data/System.dat"));
+
+  EditStage().m_iBgm = 1;
+  StageEdit().m_bStageChanged = 1;
+  Save();
+  shownPage = -1;
+  WhenModalShows("ステージの設定", [&](QWidget& sheet) {
+    shownPage = sheet.findChild<QTabWidget*>()->currentIndex();
+    onMusic = qobject_cast<QComboBox*>(sheet.focusWidget()) != nullptr;
+    QTest::keyClick(&sheet, Qt::Key_Escape);
+  });
+  onMusic = false;
+  OpenUse({eUseKind::Bgm, 1}, [](const cUse& use) { return use.area == eUseArea::StageSettings; });
+  EXPECT_EQ(0, shownPage);
+  EXPECT_TRUE(onMusic);
 }
 
 }  // namespace

@@ -10,13 +10,13 @@
 #include "core/ProjectPaths.h"
 #include "stage/StageEdit.h"
 #include "ui/entries/OpenEntryEditor.h"
-#include "ui/framework/Commands.h"
 #include "ui/framework/WindowFrame.h"
 #include "ui/stage/StageWindow.h"
 #include "ui/stagesettings/StageSettingsSheet.h"
 #include "ui/system/SystemSheet.h"
 #include "ui/whereused/EntryStartOfUse.h"
 #include "ui/whereused/WhereUsedWindow.h"
+#include "ui/worldmap/WorldMapEntry.h"
 
 namespace velmora {
 namespace {
@@ -47,9 +47,6 @@ struct cWhereUsedEntry {
   void Open();
   void OpenUse(const cFoundUse& found);
   void ShowInStage(const cFoundUse& found);
-  void RunCommand(eMenuAction action) {
-    stage.SendCommand(MakeCommand(StageCommandOf(action).ids[0], kNoticeClicked), 0);
-  }
   void EditPaletteUse(cPaletteSide side, const cUse& use) {
     EditPaletteEntry(stage.Manager(), stage.Window(), side, use.entry, [this](int) { stage.Repaint(); },
                      EntryStartOfUse(use));
@@ -78,7 +75,7 @@ void cWhereUsedEntry::OpenUse(const cFoundUse& found) {
   if (found.file == PathOf(ePath::CommonPalette)) {
     EditPaletteUse({0, kind}, use);
   } else if (found.file == PathOf(ePath::WorldMap)) {
-    RunCommand(eMenuAction::WorldMap);
+    ShowWorldMapEvent(use.entry - 1);
   } else if (found.file == PathOf(ePath::System)) {
     OpenSystemWindow(stage.Manager(), stage.Window(), SystemControlOfField(use.what));
   } else if (IsEditedStage(found.file)) {

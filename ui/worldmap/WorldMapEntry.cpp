@@ -69,11 +69,22 @@ void cWorldMapEntry::Open() {
                                       [open] { open->Window()->activateWindow(); }});
 }
 
+// The entry of the stage window that stands.
+std::weak_ptr<cWorldMapEntry> g_entry;
+
 }  // namespace
 
 void InstallWorldMapEntry(cStageWindow& stage) {
   auto entry = std::make_shared<cWorldMapEntry>(stage);
+  g_entry = entry;
   stage.SetHandler(eMenuAction::WorldMap, [entry] { entry->Open(); });
+}
+
+void ShowWorldMapEvent(int index) {
+  const std::shared_ptr<cWorldMapEntry> entry = g_entry.lock();
+  if (!entry) return;
+  entry->Open();
+  if (entry->window && entry->window->IsOpen()) entry->window->ShowEvent(index);
 }
 
 }  // namespace velmora

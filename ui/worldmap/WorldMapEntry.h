@@ -10,4 +10,8 @@ class cStageWindow;
 // the stage window owns it.
 void InstallWorldMapEntry(cStageWindow& stage);
 
+// Opens the world map window as the menu entry does, or brings it to the
+// front, with event `index` of the map in view.
+void ShowWorldMapEvent(int index);
+
 }  // namespace velmora

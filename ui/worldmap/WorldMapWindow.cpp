@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QTimer>
+#include <algorithm>
 
 #include "core/EditConfig.h"
 #include "core/ProjectPaths.h"
@@ -102,6 +103,19 @@ void cWorldMapWindow::UpdateScrollRanges() {
   const cBarRange horz = HorzBarRange(WorldMap().m_nWidth, geometry.clientWidth);
   const cBarRange vert = VertBarRange(WorldMap().m_nHeight, geometry.clientHeight);
   SetScrollRanges(horz.maximum, horz.page, vert.maximum, vert.page);
+}
+
+void cWorldMapWindow::ShowEvent(int index) {
+  const std::vector<cEdWorldEvent>& events = WorldMap().m_vecEvents;
+  if (index < 0 || static_cast<size_t>(index) >= events.size()) return;
+  SetMode(kWorldEventMode);
+  const cEdWorldEvent& event = events[static_cast<size_t>(index)];
+  const cGeometry& geometry = Geometry();
+  ScrollTo(std::max(0, event.m_iX - geometry.clientWidth / kCellDots / 2),
+           std::max(0, event.m_iY - geometry.clientHeight / kCellDots / 2));
+  m_cursor = {event.m_iX, event.m_iY};
+  UpdateStates();
+  Repaint();
 }
 
 void cWorldMapWindow::OnSize() {

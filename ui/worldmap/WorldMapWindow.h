@@ -45,6 +45,10 @@ class cWorldMapWindow : public cDialog {
   void ToggleMode();
   void ShowPalette(bool show);
 
+  // Event `index` of the map in the middle of the view, under the cursor,
+  // in the event mode: where a search takes the author to one.
+  void ShowEvent(int index);
+
   void UpdateStates();
   void Repaint();
   const cCellPos& Cursor() const { return m_cursor; }

@@ -161,6 +161,9 @@ TEST_F(ReviewToolsInTheEditor, TheDatabaseListsPopupMenuFindsTheUsesOfARowAndOpe
   QTest::qWait(100);
   EXPECT_EQ(nullptr, OpenDatabaseSheet()) << "the database window closed";
   EXPECT_TRUE(Stage().Window()->isVisible());
+  QWidget* results = TopLevelTitled("使用箇所の検索");
+  ASSERT_NE(results, nullptr) << "the results stay in reach for the next use";
+  EXPECT_EQ(listed, results->findChild<QListWidget*>()->count());
   cEntryEditorBase* editor = OpenEntryEditor();
   ASSERT_NE(editor, nullptr);
   EXPECT_EQ(first.entry, editor->Place().index);

@@ -57,7 +57,9 @@ struct cWhereUsedEntry {
 };
 
 void cWhereUsedEntry::Open() {
+  // A window that the database window hid comes back into sight.
   if (window && window->IsOpen()) {
+    window->Window()->show();
     window->Window()->activateWindow();
     return;
   }
@@ -148,7 +150,10 @@ void ShowUsesOver(cDialogManager& manager, QWidget* owner, const cUseTarget& tar
   // The owner's call is still under way: its window closes once it ended.
   QTimer::singleShot(0, qApp, [found = *chosen, leaveOwner = std::move(leaveOwner)] {
     const std::shared_ptr<cWhereUsedEntry> entry = g_entry.lock();
-    if (entry && leaveOwner()) entry->OpenUse(found);
+    if (!entry || !leaveOwner()) return;
+    // The results stay in reach for the next use.
+    entry->Open();
+    entry->OpenUse(found);
   });
 }
 

@@ -52,7 +52,10 @@ class ReviewToolsInTheEditor : public cEditorOnSample {
     WhereUsedSearch() = cWhereUsedSearch();
     cEditorOnSample::TearDown();
   }
-  void LetARebuildHappen() { QTest::qWait(250); }
+  // A slow build loads the stage for longer than any fixed wait.
+  void LetARebuildHappen(const bool& done) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return done; }, 10000)) << "the stage opened";
+  }
 };
 
 TEST_F(ReviewToolsInTheEditor, CompareFramesTheCellsThatDifferUntilCleared) {
@@ -114,7 +117,7 @@ TEST_F(ReviewToolsInTheEditor, SearchListsTheUsesAndOpensOneInItsStage) {
   });
   list->setCurrentRow(inStage2);
   ButtonOf(window, "開く")->click();
-  LetARebuildHappen();
+  LetARebuildHappen(edited);
   EXPECT_EQ(".\\data\\stg4\\Stage2.stg4_950", StageEdit().m_strPath);
   EXPECT_EQ(use.x, Stage().Cursor().x);
   EXPECT_EQ(use.y, Stage().Cursor().y);

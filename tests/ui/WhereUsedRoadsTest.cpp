@@ -109,6 +109,8 @@ class WhereUsedRoads : public cEntryEditorTest {
 };
 
 TEST_F(WhereUsedRoads, AUseInAFlowOpensTheFlowPageOnItsFlowAndCommandOrCondition) {
+  Save();
+  const std::vector<uint8_t> before = Files();
   const cUse inCommand = OpenUse({eUseKind::VarCommon, kSearchedVar}, [](const cUse& use) { return InCommon(use) && use.cmd > 0; });
   ASSERT_NE(OpenEntryEditor(), nullptr);
   EXPECT_EQ(&Page(kFlowPage), &Front());
@@ -116,7 +118,6 @@ TEST_F(WhereUsedRoads, AUseInAFlowOpensTheFlowPageOnItsFlowAndCommandOrCondition
   EXPECT_EQ(3, inCommand.cmd);
   EXPECT_EQ(inCommand.cmd - 1, SelectedRow(Front(), kIdCmdList));
   EXPECT_TRUE(ListRows(Front(), kIdCmdList).at(2).contains(QStringLiteral("C7")));
-  const std::vector<uint8_t> before = Files();
   PressCancel();
   Save();
   EXPECT_EQ(before, Files()) << "Cancel keeps the files as they were";
@@ -174,6 +175,7 @@ TEST_F(WhereUsedRoads, AUseInACellOpensItsModalEditorAtTheUse) {
     EXPECT_EQ(editor.CurrentPage()->Item(kIdInheritNo), editor.Window()->focusWidget());
     PressCancel();
   });
+  Save();
   const std::vector<uint8_t> before = Files();
   const cUse use = OpenUse({eUseKind::Chara, 2}, [](const cUse& use) { return use.area == eUseArea::Cell; });
   EXPECT_TRUE(checked);
@@ -185,6 +187,8 @@ TEST_F(WhereUsedRoads, AUseInACellOpensItsModalEditorAtTheUse) {
 // The coin's second condition names the variable: "_" beside it in the
 // condition's dialog lists the variable's uses, right-clicked.
 TEST_F(WhereUsedRoads, TheRenameButtonsMenuListsTheUsesOfTheVariableItStandsBeside) {
+  Save();
+  const std::vector<uint8_t> before = Files();
   OpenFromPalette({0, kKindItem}, 1);
   ShowPage(0);
   ListAt(Front(), kIdAppearList)->setCurrentRow(1);
@@ -216,7 +220,6 @@ TEST_F(WhereUsedRoads, TheRenameButtonsMenuListsTheUsesOfTheVariableItStandsBesi
   EXPECT_EQ(kSearchedVar, WhereUsedSearch().number);
   EXPECT_EQ(static_cast<int>(WhereUsedSearch().results.size()), listed);
   EXPECT_GE(listed, 4) << "at least the slime's two and the coin's two";
-  const std::vector<uint8_t> before = Files();
   PressCancel();
   Save();
   EXPECT_EQ(before, Files());

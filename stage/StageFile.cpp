@@ -201,20 +201,11 @@ void cStage::Load(cDataFile& file) {
   for (cAutoVanish& vanish : m_aAutoVanish) vanish.Load(file);
   ReadPaletteLists(Palette(), file);
   BlankFirstEntries(Palette());
-  m_vecBlockCell.clear();
-  m_vecCharaCell.clear();
-  m_vecItemCell.clear();
-  if (!SetSize(m_nWidth, m_nHeight, 0, 0)) {
-    // A size no stage can have: keep a usable shape and read no further.
-    file.MarkDamaged();
-    SetSize(kStageViewWidth, kStageViewHeight, 0, 0);
-    return;
-  }
   // A short palette is filled by the normalising, which changes what the
   // checks find; only with complete palettes can they run early.
   cCheckedCells checked;
   cCheckedCells* early = PalettesComplete() ? &checked : nullptr;
-  LoadPlacements(file, early);
+  if (!LoadLayers(file, early)) return;
   LoadVector(m_vecBack, file);
   LoadVector(m_vecStageVar, file);
   if (g_nFileVersion >= kFirstTrailerVersion) {
@@ -223,6 +214,20 @@ void cStage::Load(cDataFile& file) {
   }
   if (g_nFileVersion < 950) ApplyFixups();
   Normalize(early);
+}
+
+bool cStage::LoadLayers(cDataFile& file, cCheckedCells* checked) {
+  m_vecBlockCell.clear();
+  m_vecCharaCell.clear();
+  m_vecItemCell.clear();
+  if (!SetSize(m_nWidth, m_nHeight, 0, 0)) {
+    // Keep a usable shape and read no further.
+    file.MarkDamaged();
+    SetSize(kStageViewWidth, kStageViewHeight, 0, 0);
+    return false;
+  }
+  LoadPlacements(file, checked);
+  return true;
 }
 
 void cStage::LoadPlacements(cDataFile& file, cCheckedCells* checked) {

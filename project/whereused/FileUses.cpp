@@ -7,7 +7,7 @@
 #include "project/SystemRecord.h"
 #include "project/WorldMap.h"
 #include "project/whereused/RecordUses.h"
-#include "stage/Stage.h"
+#include "stage/SparseStage.h"
 
 namespace velmora {
 namespace {
@@ -33,19 +33,32 @@ void CollectPalette(const cPaletteLists& lists, std::vector<cUse>& uses) {
 }
 
 template <class tEntry>
-void CollectLayer(const cStage& stage, const std::vector<tEntry>& layer, ePaletteList kind, std::vector<cUse>& uses) {
+void CollectCell(int x, int y, const tEntry& cell, ePaletteList kind, std::vector<cUse>& uses) {
   cUse place;
   place.area = eUseArea::Cell;
   place.list = kind;
+  place.x = x;
+  place.y = y;
+  place.name = cell.m_strName;
+  CollectEntryUses(cell, place, uses);
+}
+
+template <class tEntry>
+void CollectLayer(const cStage& stage, const std::vector<tEntry>& layer, ePaletteList kind, std::vector<cUse>& uses) {
   for (int y = 0; y < stage.m_nHeight; ++y) {
     for (int x = 0; x < stage.m_nWidth; ++x) {
       const size_t index = static_cast<size_t>(stage.CellIndex(x, y));
-      if (index >= layer.size() || !IsOccupied(layer[index])) continue;
-      place.x = x;
-      place.y = y;
-      place.name = layer[index].m_strName;
-      CollectEntryUses(layer[index], place, uses);
+      if (index < layer.size() && IsOccupied(layer[index])) CollectCell(x, y, layer[index], kind, uses);
     }
+  }
+}
+
+template <class tEntry>
+void CollectPlaced(const cSparseStage& stage, const std::vector<cPlacement<tEntry>>& placed, ePaletteList kind,
+                   std::vector<cUse>& uses) {
+  for (const cPlacement<tEntry>& placement : placed) {
+    const cCellPos pos = stage.PosOf(placement.index);
+    CollectCell(pos.x, pos.y, placement.cell, kind, uses);
   }
 }
 
@@ -62,19 +75,34 @@ void CollectWorldPage(const cEdWorldPage& page, const cUse& place, std::vector<c
   }
 }
 
-}  // namespace
+void CollectCells(const cStage& stage, std::vector<cUse>& uses) {
+  CollectLayer(stage, stage.m_vecBlockCell, ePaletteList::Block, uses);
+  CollectLayer(stage, stage.m_vecCharaCell, ePaletteList::Chara, uses);
+  CollectLayer(stage, stage.m_vecItemCell, ePaletteList::Item, uses);
+}
 
-void CollectStageRecordUses(cStage& stage, std::vector<cUse>& uses) {
+void CollectCells(const cSparseStage& stage, std::vector<cUse>& uses) {
+  CollectPlaced(stage, stage.m_vecBlockPlaced, ePaletteList::Block, uses);
+  CollectPlaced(stage, stage.m_vecCharaPlaced, ePaletteList::Chara, uses);
+  CollectPlaced(stage, stage.m_vecItemPlaced, ePaletteList::Item, uses);
+}
+
+// The settings, the palette and the cells, with the stage's palette and
+// variable names installed for the summaries.
+template <class tStage>
+void CollectStage(tStage& stage, std::vector<cUse>& uses) {
   cStagePaletteScope palette(stage);
   cStageVarScope names(stage.m_vecStageVar);
   cUse settings;
   settings.area = eUseArea::StageSettings;
   if (stage.m_iBgm > 0) AddFieldUse(eUseKind::Bgm, stage.m_iBgm, settings, "BGM", uses);
   CollectPalette(stage.Palette(), uses);
-  CollectLayer(stage, stage.m_vecBlockCell, ePaletteList::Block, uses);
-  CollectLayer(stage, stage.m_vecCharaCell, ePaletteList::Chara, uses);
-  CollectLayer(stage, stage.m_vecItemCell, ePaletteList::Item, uses);
+  CollectCells(stage, uses);
 }
+
+}  // namespace
+
+void CollectStageRecordUses(cStage& stage, std::vector<cUse>& uses) { CollectStage(stage, uses); }
 
 bool CollectCommonPaletteUses(const std::string& storedPath, std::vector<cUse>& uses) {
   cPalette palette;
@@ -84,9 +112,11 @@ bool CollectCommonPaletteUses(const std::string& storedPath, std::vector<cUse>& 
 }
 
 bool CollectStageUses(const std::string& storedPath, std::vector<cUse>& uses) {
-  cStage stage;
+  // Only the occupied cells: whole layers of a large stage cost far more
+  // to make and free than the few cells that hold anything.
+  cSparseStage stage;
   if (!stage.LoadWholeFile(storedPath)) return false;
-  CollectStageRecordUses(stage, uses);
+  CollectStage(stage, uses);
   return true;
 }
 

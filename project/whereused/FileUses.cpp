@@ -1,11 +1,15 @@
 #include "project/whereused/FileUses.h"
 
+#include <algorithm>
+
 #include "core/SystemText.h"
 #include "objects/GValInfo.h"
 #include "objects/Palette.h"
+#include "project/Database.h"
 #include "project/SystemLabels.h"
 #include "project/SystemRecord.h"
 #include "project/WorldMap.h"
+#include "project/whereused/PathKey.h"
 #include "project/whereused/RecordUses.h"
 #include "stage/SparseStage.h"
 
@@ -87,6 +91,29 @@ void CollectCells(const cSparseStage& stage, std::vector<cUse>& uses) {
   CollectPlaced(stage, stage.m_vecItemPlaced, ePaletteList::Item, uses);
 }
 
+// A background layer shows a picture file; it is a use of every picture
+// row that names the same file.
+void CollectBackgrounds(const std::vector<cStageBack>& backs, std::vector<cUse>& uses) {
+  std::vector<std::string> keys(backs.size());
+  for (size_t i = 0; i < backs.size(); ++i) {
+    if (!backs[i].m_bUseColor && !backs[i].m_strPath.empty()) keys[i] = PathKey(backs[i].m_strPath);
+  }
+  if (std::all_of(keys.begin(), keys.end(), [](const std::string& key) { return key.empty(); })) return;
+  const std::vector<cEdPicture>& pictures = Database().m_Picture.m_vecEntries;
+  cUse place;
+  place.area = eUseArea::Background;
+  // Row 0 is なし.
+  for (size_t row = 1; row < pictures.size(); ++row) {
+    if (pictures[row].m_strPath.empty()) continue;
+    const std::string picture = PathKey(pictures[row].m_strPath);
+    for (size_t i = 0; i < keys.size(); ++i) {
+      if (keys[i] != picture) continue;
+      place.entry = static_cast<int>(i) + 1;
+      AddFieldUse(eUseKind::Picture, static_cast<int>(row), place, backs[i].m_strPath.c_str(), uses);
+    }
+  }
+}
+
 // The settings, the palette and the cells, with the stage's palette and
 // variable names installed for the summaries.
 template <class tStage>
@@ -96,6 +123,7 @@ void CollectStage(tStage& stage, std::vector<cUse>& uses) {
   cUse settings;
   settings.area = eUseArea::StageSettings;
   if (stage.m_iBgm > 0) AddFieldUse(eUseKind::Bgm, stage.m_iBgm, settings, "BGM", uses);
+  CollectBackgrounds(stage.m_vecBack, uses);
   CollectPalette(stage.Palette(), uses);
   CollectCells(stage, uses);
 }
@@ -103,6 +131,13 @@ void CollectStage(tStage& stage, std::vector<cUse>& uses) {
 }  // namespace
 
 void CollectStageRecordUses(cStage& stage, std::vector<cUse>& uses) { CollectStage(stage, uses); }
+
+std::vector<cUse> FindInStage(cStage& stage, const cUseTarget& target) {
+  std::vector<cUse> uses;
+  CollectStage(stage, uses);
+  std::erase_if(uses, [&](const cUse& use) { return use.target != target; });
+  return uses;
+}
 
 bool CollectCommonPaletteUses(const std::string& storedPath, std::vector<cUse>& uses) {
   cPalette palette;

@@ -170,18 +170,18 @@ TEST_F(WorldMapInTheEditor, SpaceFlipsTheModesAndTheUnderscoreRenamesACommonVari
   map->Window()->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(map->Window()));
   map->Item(kIdPlaceholder)->setFocus();
+  // The hook posts the key to the window; a loaded machine takes a while.
+  const auto modeBecomes = [](int mode) { return QTest::qWaitFor([mode] { return WorldEdit().m_iMode == mode; }); };
   QTest::keyClick(map->Item(kIdPlaceholder), Qt::Key_Space);
-  QTest::qWait(20);  // the hook posts the key to the window
-  EXPECT_EQ(WorldEdit().m_iMode, kWorldEventMode);
+  EXPECT_TRUE(modeBecomes(kWorldEventMode));
+  QTest::qWait(20);  // the palette of the mode opens behind the change
   ASSERT_NE(map->EventPalette(), nullptr);
   QWidget* list = map->EventPalette()->Item(cEventPaletteWindow::kIdList);
   map->EventPalette()->Window()->activateWindow();
-  QTest::qWait(20);
-  ASSERT_EQ(QApplication::activeWindow(), map->EventPalette()->Window());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == map->EventPalette()->Window(); }));
   list->setFocus();
   QTest::keyClick(list, Qt::Key_Space);
-  QTest::qWait(20);
-  EXPECT_EQ(WorldEdit().m_iMode, kWorldChipMode) << "Space in the palette, which goes with its mode";
+  EXPECT_TRUE(modeBecomes(kWorldChipMode)) << "Space in the palette, which goes with its mode";
   ASSERT_NE(map->ChipPalette(), nullptr);
   Command(*map, kEventMode);
 

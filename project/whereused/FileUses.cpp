@@ -130,8 +130,6 @@ void CollectStage(tStage& stage, std::vector<cUse>& uses) {
 
 }  // namespace
 
-void CollectStageRecordUses(cStage& stage, std::vector<cUse>& uses) { CollectStage(stage, uses); }
-
 std::vector<cUse> FindInStage(cStage& stage, const cUseTarget& target) {
   std::vector<cUse> uses;
   CollectStage(stage, uses);

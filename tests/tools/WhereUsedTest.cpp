@@ -106,6 +106,7 @@ void WriteStages() {
   summoner.m_vFlow[0].m_vCmd.push_back(SummonChara(1, 1));
   summoner.m_vFlow[0].m_vCmd.push_back(Cmd(kCmdPicture, {{0, 2}}));
   summoner.m_vFlow[0].m_vCmd.push_back(Cmd(kCmdGraphic, {{0, kGraphicKindOwnBmp}, {1, 1}}));
+  summoner.m_vFlow[0].m_vCmd.push_back(Cmd(kCmdGetItem, {{0, 1}, {1, 1}}));  // from the stage's palette
   stage.m_vecCharaCell[static_cast<size_t>(stage.CellIndex(7, 2))] = summoner;
   // The stage's own gatekeeper, drawn from a character bitmap, and one
   // placed from it.
@@ -119,6 +120,19 @@ void WriteStages() {
   placedKeeper.m_nInheritSrc = kInheritStage;
   placedKeeper.m_nInheritNo = 1;
   stage.m_vecCharaCell[static_cast<size_t>(stage.CellIndex(5, 5))] = placedKeeper;
+  // A chest of the stage's own palette holds the stage's own key.
+  cEdItem key;
+  key.m_strName = ToCp932("鍵");
+  key.m_nGraphicNo = 1;
+  stage.m_vecItemPlt.resize(1);
+  stage.m_vecItemPlt.push_back(key);
+  cEdBlock chest;
+  chest.m_strName = ToCp932("宝箱");
+  chest.m_nGraphicNo = 1;
+  chest.m_nGetItemSrc = kInheritStage;
+  chest.m_nGetItemNo = 1;
+  stage.m_vecBlockPlt.resize(1);
+  stage.m_vecBlockPlt.push_back(chest);
   // The sky, named in another case and with the other slash, is picture 2;
   // a layer shown as a colour uses no picture.
   stage.m_vecBack.resize(3);

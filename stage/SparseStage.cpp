@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "stage/Placements.h"
+
 namespace velmora {
 namespace {
 
-// Each placement holds at least its index and the record's two counts.
-constexpr uint64_t kMinPlacementBytes = 12;
 constexpr int32_t kNoSlot = -1;
 
 template <class T>
@@ -33,21 +33,14 @@ bool cSparseStage::LoadLayers(cDataFile& file, cCheckedCells* /*checked*/) {
 
 template <class T>
 void cSparseStage::LoadPlaced(std::vector<cPlacement<T>>& placed, cDataFile& file) {
-  const int32_t count = ReadCount(file, kMinPlacementBytes);
-  for (int32_t i = 0; i < count && !file.Damaged(); ++i) {
-    int32_t index = 0;
-    if (!file.ReadInt32(index)) break;
-    if (index < 0 || static_cast<size_t>(index) >= m_slots.size()) {
-      file.MarkDamaged();
-      break;
-    }
-    int32_t& slot = m_slots[static_cast<size_t>(index)];
+  ReadPlacements(file, m_slots.size(), [&](size_t index) {
+    int32_t& slot = m_slots[index];
     if (slot == kNoSlot) {
       slot = static_cast<int32_t>(placed.size());
-      placed.push_back({index, T()});
+      placed.push_back({static_cast<int32_t>(index), T()});
     }
     placed[static_cast<size_t>(slot)].cell.Load(file);
-  }
+  });
   for (const cPlacement<T>& placement : placed) m_slots[static_cast<size_t>(placement.index)] = kNoSlot;
   KeepOccupied(placed);
 }

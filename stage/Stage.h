@@ -144,14 +144,20 @@ class cStage : public cSaveData {
   void VisitNested(cNestedVisitor& visitor) const override;
 
  protected:
-  void Register(uint32_t version) override;
-
- private:
   // Per layer, the cells whose checks ran as they were read (1), so that
   // the normalising after a load need not visit them again.
   struct cCheckedCells {
     std::vector<uint8_t> block, chara, item;
   };
+
+  void Register(uint32_t version) override;
+  // Reads the placements that follow the palettes into layers of the size
+  // just read, checking each cell at once when `checked` is given; false,
+  // with the file marked damaged, for a size no stage can have. A read
+  // that needs only the occupied cells keeps them its own way.
+  virtual bool LoadLayers(cDataFile& file, cCheckedCells* checked);
+
+ private:
   void Normalize(const cCheckedCells* checked);
   void ClampScrollLimits();
   void FillShortPalettes();

@@ -1,12 +1,10 @@
 #include "core/Log.h"
 #include "objects/Palette.h"
+#include "stage/Placements.h"
 #include "stage/Stage.h"
 
 namespace velmora {
 namespace {
-
-// Each placement holds at least its index and the record's two counts.
-constexpr uint64_t kMinPlacementBytes = 12;
 
 // With `checked`, each cell runs the checks of the normalising at once,
 // while it is still in the cache, and is marked for the normalising to
@@ -16,22 +14,13 @@ constexpr uint64_t kMinPlacementBytes = 12;
 template <class T>
 void LoadLayer(std::vector<T>& layer, cDataFile& file, std::vector<uint8_t>* checked) {
   if (checked) checked->assign(layer.size(), 0);
-  const int32_t count = ReadCount(file, kMinPlacementBytes);
-  for (int32_t i = 0; i < count; ++i) {
-    int32_t index = 0;
-    if (!file.ReadInt32(index)) return;
-    // A placement outside the layer is damage in the file, not a fault of
-    // the editor: the load fails rather than the editor stopping.
-    if (index < 0 || static_cast<size_t>(index) >= layer.size()) {
-      file.MarkDamaged();
-      return;
-    }
-    T& cell = layer[static_cast<size_t>(index)];
+  ReadPlacements(file, layer.size(), [&](size_t index) {
+    T& cell = layer[index];
     cell.Load(file);
-    if (!checked) continue;
+    if (!checked) return;
     CheckPaletteRefs(cell);
-    (*checked)[static_cast<size_t>(index)] = 1;
-  }
+    (*checked)[index] = 1;
+  });
 }
 
 // Writes the occupied cells inside the stage, row by row; `beforeWrite`
@@ -201,20 +190,11 @@ void cStage::Load(cDataFile& file) {
   for (cAutoVanish& vanish : m_aAutoVanish) vanish.Load(file);
   ReadPaletteLists(Palette(), file);
   BlankFirstEntries(Palette());
-  m_vecBlockCell.clear();
-  m_vecCharaCell.clear();
-  m_vecItemCell.clear();
-  if (!SetSize(m_nWidth, m_nHeight, 0, 0)) {
-    // A size no stage can have: keep a usable shape and read no further.
-    file.MarkDamaged();
-    SetSize(kStageViewWidth, kStageViewHeight, 0, 0);
-    return;
-  }
   // A short palette is filled by the normalising, which changes what the
   // checks find; only with complete palettes can they run early.
   cCheckedCells checked;
   cCheckedCells* early = PalettesComplete() ? &checked : nullptr;
-  LoadPlacements(file, early);
+  if (!LoadLayers(file, early)) return;
   LoadVector(m_vecBack, file);
   LoadVector(m_vecStageVar, file);
   if (g_nFileVersion >= kFirstTrailerVersion) {
@@ -223,6 +203,20 @@ void cStage::Load(cDataFile& file) {
   }
   if (g_nFileVersion < 950) ApplyFixups();
   Normalize(early);
+}
+
+bool cStage::LoadLayers(cDataFile& file, cCheckedCells* checked) {
+  m_vecBlockCell.clear();
+  m_vecCharaCell.clear();
+  m_vecItemCell.clear();
+  if (!SetSize(m_nWidth, m_nHeight, 0, 0)) {
+    // Keep a usable shape and read no further.
+    file.MarkDamaged();
+    SetSize(kStageViewWidth, kStageViewHeight, 0, 0);
+    return false;
+  }
+  LoadPlacements(file, checked);
+  return true;
 }
 
 void cStage::LoadPlacements(cDataFile& file, cCheckedCells* checked) {

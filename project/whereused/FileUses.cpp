@@ -1,13 +1,17 @@
 #include "project/whereused/FileUses.h"
 
+#include <algorithm>
+
 #include "core/SystemText.h"
 #include "objects/GValInfo.h"
 #include "objects/Palette.h"
+#include "project/Database.h"
 #include "project/SystemLabels.h"
 #include "project/SystemRecord.h"
 #include "project/WorldMap.h"
+#include "project/whereused/PathKey.h"
 #include "project/whereused/RecordUses.h"
-#include "stage/Stage.h"
+#include "stage/SparseStage.h"
 
 namespace velmora {
 namespace {
@@ -33,19 +37,32 @@ void CollectPalette(const cPaletteLists& lists, std::vector<cUse>& uses) {
 }
 
 template <class tEntry>
-void CollectLayer(const cStage& stage, const std::vector<tEntry>& layer, ePaletteList kind, std::vector<cUse>& uses) {
+void CollectCell(int x, int y, const tEntry& cell, ePaletteList kind, std::vector<cUse>& uses) {
   cUse place;
   place.area = eUseArea::Cell;
   place.list = kind;
+  place.x = x;
+  place.y = y;
+  place.name = cell.m_strName;
+  CollectEntryUses(cell, place, uses);
+}
+
+template <class tEntry>
+void CollectLayer(const cStage& stage, const std::vector<tEntry>& layer, ePaletteList kind, std::vector<cUse>& uses) {
   for (int y = 0; y < stage.m_nHeight; ++y) {
     for (int x = 0; x < stage.m_nWidth; ++x) {
       const size_t index = static_cast<size_t>(stage.CellIndex(x, y));
-      if (index >= layer.size() || !IsOccupied(layer[index])) continue;
-      place.x = x;
-      place.y = y;
-      place.name = layer[index].m_strName;
-      CollectEntryUses(layer[index], place, uses);
+      if (index < layer.size() && IsOccupied(layer[index])) CollectCell(x, y, layer[index], kind, uses);
     }
+  }
+}
+
+template <class tEntry>
+void CollectPlaced(const cSparseStage& stage, const std::vector<cPlacement<tEntry>>& placed, ePaletteList kind,
+                   std::vector<cUse>& uses) {
+  for (const cPlacement<tEntry>& placement : placed) {
+    const cCellPos pos = stage.PosOf(placement.index);
+    CollectCell(pos.x, pos.y, placement.cell, kind, uses);
   }
 }
 
@@ -62,18 +79,62 @@ void CollectWorldPage(const cEdWorldPage& page, const cUse& place, std::vector<c
   }
 }
 
-}  // namespace
+void CollectCells(const cStage& stage, std::vector<cUse>& uses) {
+  CollectLayer(stage, stage.m_vecBlockCell, ePaletteList::Block, uses);
+  CollectLayer(stage, stage.m_vecCharaCell, ePaletteList::Chara, uses);
+  CollectLayer(stage, stage.m_vecItemCell, ePaletteList::Item, uses);
+}
 
-void CollectStageRecordUses(cStage& stage, std::vector<cUse>& uses) {
+void CollectCells(const cSparseStage& stage, std::vector<cUse>& uses) {
+  CollectPlaced(stage, stage.m_vecBlockPlaced, ePaletteList::Block, uses);
+  CollectPlaced(stage, stage.m_vecCharaPlaced, ePaletteList::Chara, uses);
+  CollectPlaced(stage, stage.m_vecItemPlaced, ePaletteList::Item, uses);
+}
+
+// A background layer shows a picture file; it is a use of every picture
+// row that names the same file.
+void CollectBackgrounds(const std::vector<cStageBack>& backs, std::vector<cUse>& uses) {
+  std::vector<std::string> keys(backs.size());
+  for (size_t i = 0; i < backs.size(); ++i) {
+    if (!backs[i].m_bUseColor && !backs[i].m_strPath.empty()) keys[i] = PathKey(backs[i].m_strPath);
+  }
+  if (std::all_of(keys.begin(), keys.end(), [](const std::string& key) { return key.empty(); })) return;
+  const std::vector<cEdPicture>& pictures = Database().m_Picture.m_vecEntries;
+  cUse place;
+  place.area = eUseArea::Background;
+  // Row 0 is なし.
+  for (size_t row = 1; row < pictures.size(); ++row) {
+    if (pictures[row].m_strPath.empty()) continue;
+    const std::string picture = PathKey(pictures[row].m_strPath);
+    for (size_t i = 0; i < keys.size(); ++i) {
+      if (keys[i] != picture) continue;
+      place.entry = static_cast<int>(i) + 1;
+      AddFieldUse(eUseKind::Picture, static_cast<int>(row), place, backs[i].m_strPath.c_str(), uses);
+    }
+  }
+}
+
+// The settings, the palette and the cells, with the stage's palette and
+// variable names installed for the summaries.
+template <class tStage>
+void CollectStage(tStage& stage, std::vector<cUse>& uses) {
   cStagePaletteScope palette(stage);
   cStageVarScope names(stage.m_vecStageVar);
   cUse settings;
   settings.area = eUseArea::StageSettings;
   if (stage.m_iBgm > 0) AddFieldUse(eUseKind::Bgm, stage.m_iBgm, settings, "BGM", uses);
+  CollectBackgrounds(stage.m_vecBack, uses);
   CollectPalette(stage.Palette(), uses);
-  CollectLayer(stage, stage.m_vecBlockCell, ePaletteList::Block, uses);
-  CollectLayer(stage, stage.m_vecCharaCell, ePaletteList::Chara, uses);
-  CollectLayer(stage, stage.m_vecItemCell, ePaletteList::Item, uses);
+  CollectCells(stage, uses);
+}
+
+}  // namespace
+
+std::vector<cUse> FindInStage(cStage& stage, const cUseTarget& target) {
+  std::vector<cUse> uses;
+  CollectStage(stage, uses);
+  std::erase_if(uses, [&](const cUse& use) { return use.target != target; });
+  return uses;
 }
 
 bool CollectCommonPaletteUses(const std::string& storedPath, std::vector<cUse>& uses) {
@@ -84,9 +145,11 @@ bool CollectCommonPaletteUses(const std::string& storedPath, std::vector<cUse>& 
 }
 
 bool CollectStageUses(const std::string& storedPath, std::vector<cUse>& uses) {
-  cStage stage;
+  // Only the occupied cells: whole layers of a large stage cost far more
+  // to make and free than the few cells that hold anything.
+  cSparseStage stage;
   if (!stage.LoadWholeFile(storedPath)) return false;
-  CollectStageRecordUses(stage, uses);
+  CollectStage(stage, uses);
   return true;
 }
 

@@ -17,8 +17,8 @@ bool CollectStageUses(const std::string& storedPath, std::vector<cUse>& uses);
 bool CollectWorldMapUses(const std::string& storedPath, std::vector<cUse>& uses);
 bool CollectSystemUses(const std::string& storedPath, std::vector<cUse>& uses);
 
-// The same over a loaded stage: its settings, its palette and its cells.
-// Its variable names and palette stand installed while the walk reads them.
-void CollectStageRecordUses(cStage& stage, std::vector<cUse>& uses);
+// The uses of `target` in a stage held in memory, such as the open one,
+// whose palette entries the search window looks for before it is saved.
+std::vector<cUse> FindInStage(cStage& stage, const cUseTarget& target);
 
 }  // namespace velmora

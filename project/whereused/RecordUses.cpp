@@ -11,6 +11,7 @@
 #include "objects/CondTables.h"
 #include "objects/GValInfo.h"
 #include "objects/ObjectList.h"
+#include "objects/PaletteTables.h"
 #include "objects/code/CodeToken.h"
 
 namespace velmora {
@@ -48,9 +49,20 @@ void AddRow(cTargets& targets, eDbList list, int row) {
   if (kind != eUseKind::Count && (row > 0 || (row == 0 && realZero))) targets.push_back({kind, row});
 }
 
-// A reference into a palette counts when it names the common one.
-void AddCommonEntry(cTargets& targets, ePaletteList list, bool common, int number) {
-  if (common && number >= 1) targets.push_back({UseKindOf(list), number});
+// The stored values that choose the common and the stage palette: the
+// inherit and item sources count from なし, the summon and get-item
+// sources from the common palette.
+struct cPaletteChoice {
+  int common;
+  int stage;
+};
+constexpr cPaletteChoice kInheritOrItemSource{kInheritCommon, kInheritStage};
+constexpr cPaletteChoice kSummonSource{0, 1};
+
+void AddEntry(cTargets& targets, ePaletteList list, int source, cPaletteChoice choice, int number) {
+  if (number < 1) return;
+  if (source == choice.common) targets.push_back({UseKindOf(list, ePalette::Common), number});
+  if (source == choice.stage) targets.push_back({UseKindOf(list, ePalette::Stage), number});
 }
 
 cTargets CondTargets(const cEdCond& c) {
@@ -91,7 +103,7 @@ void ShotRefs(const cEdCmd& cmd, int kind, cTargets& targets) {
   const cEdShot& shot = *cmd.m_pShot;
   if (kind == kCmdShot || kind == kCmdSword) {
     AddRow(targets, eDbList::Effect, shot.m_nEffect);
-    AddCommonEntry(targets, ePaletteList::Item, shot.m_nGetItemSrc == 1, shot.m_nGetItemNo);
+    AddEntry(targets, ePaletteList::Item, shot.m_nGetItemSrc, kInheritOrItemSource, shot.m_nGetItemNo);
   }
   if (kind == kCmdSword) AddRow(targets, eDbList::SwordType, shot.m_nMoveType);
   constexpr struct {
@@ -101,7 +113,7 @@ void ShotRefs(const cEdCmd& cmd, int kind, cTargets& targets) {
                   {kCmdSummonChara, ePaletteList::Chara},
                   {kCmdSummonItem, ePaletteList::Item}};
   for (const auto& summon : kSummons) {
-    if (summon.kind == kind) AddCommonEntry(targets, summon.list, shot.m_nSummonSrc == 0, shot.m_nSummonNo);
+    if (summon.kind == kind) AddEntry(targets, summon.list, shot.m_nSummonSrc, kSummonSource, shot.m_nSummonNo);
   }
 }
 
@@ -114,7 +126,7 @@ cTargets CmdTargets(const cEdCmd& cmd) {
   ShotRefs(cmd, kind, targets);
   if (kind == kCmdStatusOp) StatusOpVars(cmd, targets);
   if (kind == kCmdArrange) AddVar(targets, Param(cmd, 3), Param(cmd, 4));
-  if (kind == kCmdGetItem) AddCommonEntry(targets, ePaletteList::Item, Param(cmd, 0) == 0, Param(cmd, 1));
+  if (kind == kCmdGetItem) AddEntry(targets, ePaletteList::Item, Param(cmd, 0), kSummonSource, Param(cmd, 1));
   if (kind == kCmdCode) {
     ForEachCodeVariable(cmd.m_strText, [&](int scope, int number) { AddVar(targets, scope, number); });
   }
@@ -147,18 +159,26 @@ void CollectFields(const tEntry& entry, std::span<const cFieldRef<tEntry>> field
 
 template <class tEntry, ePaletteList kList>
 void AddInheritSource(const tEntry& entry, cTargets& targets) {
-  constexpr int kFromCommon = 1;
-  AddCommonEntry(targets, kList, entry.m_nInheritSrc == kFromCommon, entry.m_nInheritNo);
+  AddEntry(targets, kList, entry.m_nInheritSrc, kInheritOrItemSource, entry.m_nInheritNo);
+}
+
+template <class tEntry>
+void AddOwnBitmap(const tEntry& entry, cTargets& targets) {
+  if (entry.m_nGraphicKind == kGraphicKindOwnBmp) AddRow(targets, eDbList::BmpCharaExc, entry.m_nGraphicNo);
 }
 
 const cFieldRef<cEdBlock> kBlockFields[] = {
     {"継承元", &AddInheritSource<cEdBlock, ePaletteList::Block>},
     {"取得アイテム",
-     [](const cEdBlock& b, cTargets& t) { AddCommonEntry(t, ePaletteList::Item, b.m_nGetItemSrc == 1, b.m_nGetItemNo); }},
+     [](const cEdBlock& b, cTargets& t) {
+       AddEntry(t, ePaletteList::Item, b.m_nGetItemSrc, kInheritOrItemSource, b.m_nGetItemNo);
+     }},
+    {"グラフィック", &AddOwnBitmap<cEdBlock>},
 };
 
 const cFieldRef<cEdChara> kCharaFields[] = {
     {"継承元", &AddInheritSource<cEdChara, ePaletteList::Chara>},
+    {"グラフィック", &AddOwnBitmap<cEdChara>},
     {"アニメセット", [](const cEdChara& c, cTargets& t) { AddRow(t, eDbList::AnimeSet, c.m_nAnimeSet); }},
     {"初期のキャラエフェクト", [](const cEdChara& c, cTargets& t) { AddRow(t, eDbList::CharaEffect, c.m_nStartEffect); }},
     {"死亡時のキャラエフェクト", [](const cEdChara& c, cTargets& t) { AddRow(t, eDbList::CharaEffect, c.m_nDeathEffect); }},
@@ -167,6 +187,7 @@ const cFieldRef<cEdChara> kCharaFields[] = {
 
 const cFieldRef<cEdItem> kItemFields[] = {
     {"継承元", &AddInheritSource<cEdItem, ePaletteList::Item>},
+    {"グラフィック", &AddOwnBitmap<cEdItem>},
     {"効果音", [](const cEdItem& i, cTargets& t) { AddRow(t, eDbList::Sound, i.m_nGetSound); }},
 };
 

@@ -49,4 +49,14 @@ std::vector<std::string> NewestStageFiles() {
   return paths;
 }
 
+std::string NewestStageFile(const std::string& name) {
+  std::string wanted = Lowered(name), stem;
+  int version = 0;
+  if (SplitStageName(wanted, stem, version)) wanted = stem;
+  for (const std::string& path : NewestStageFiles()) {
+    if (SplitStageName(path.substr(PathOf(ePath::Stage).size()), stem, version) && stem == wanted) return path;
+  }
+  return {};
+}
+
 }  // namespace velmora

@@ -9,4 +9,9 @@ namespace velmora {
 // compared without case.
 std::vector<std::string> NewestStageFiles();
 
+// The newest file of the stage called `name`, without case, given with or
+// without its version suffix ("Alpha", "alpha.stg4_950"); empty when there
+// is none.
+std::string NewestStageFile(const std::string& name);
+
 }  // namespace velmora

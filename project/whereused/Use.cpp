@@ -40,6 +40,9 @@ std::string AreaText(const cUse& use) {
     case eUseArea::System:
       text = SysText("システム設定");
       break;
+    case eUseArea::Background:
+      text = std::string(SysText("ステージ設定 背景 ")) + std::to_string(use.entry);
+      break;
   }
   return text;
 }

@@ -7,7 +7,7 @@
 namespace velmora {
 
 // Where in its file a use stands.
-enum class eUseArea : uint8_t { Palette, Cell, StageSettings, WorldMap, System };
+enum class eUseArea : uint8_t { Palette, Cell, StageSettings, WorldMap, System, Background };
 
 // One use of a searched thing. Numbers count from 1 as the editor's lists
 // show them; 0 where the use lies outside such a part. Texts are CP932.
@@ -15,7 +15,7 @@ struct cUse {
   cUseTarget target;
   eUseArea area = eUseArea::Palette;
   ePaletteList list = ePaletteList::Block;  // of a palette entry or a cell
-  int32_t entry = 0;                        // palette entry, or world map event
+  int32_t entry = 0;                        // palette entry, world map event or background layer
   int32_t x = -1, y = -1;                   // a cell's position
   int32_t page = 0;                         // world map event page
   int32_t flow = 0;

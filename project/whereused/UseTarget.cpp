@@ -31,6 +31,10 @@ constexpr cKindRow kKinds[] = {
     {eUseKind::Block, "block", "コモンパレットのブロック", std::nullopt},
     {eUseKind::Chara, "chara", "コモンパレットのキャラ", std::nullopt},
     {eUseKind::Item, "item", "コモンパレットのアイテム", std::nullopt},
+    {eUseKind::StageBlock, "stage-block", "ステージパレットのブロック", std::nullopt},
+    {eUseKind::StageChara, "stage-chara", "ステージパレットのキャラ", std::nullopt},
+    {eUseKind::StageItem, "stage-item", "ステージパレットのアイテム", std::nullopt},
+    {eUseKind::CharaBmp, "chara-bmp", "キャラの専用bmp", eDbList::BmpCharaExc},
 };
 static_assert(std::size(kKinds) == static_cast<size_t>(eUseKind::Count));
 
@@ -50,9 +54,14 @@ eUseKind UseKindOf(eDbList list) {
   return eUseKind::Count;
 }
 
-eUseKind UseKindOf(ePaletteList list) {
-  constexpr eUseKind kByList[] = {eUseKind::Block, eUseKind::Chara, eUseKind::Item};
-  return kByList[static_cast<size_t>(list)];
+eUseKind UseKindOf(ePaletteList list, ePalette palette) {
+  constexpr eUseKind kCommon[] = {eUseKind::Block, eUseKind::Chara, eUseKind::Item};
+  constexpr eUseKind kStage[] = {eUseKind::StageBlock, eUseKind::StageChara, eUseKind::StageItem};
+  return (palette == ePalette::Common ? kCommon : kStage)[static_cast<size_t>(list)];
+}
+
+bool IsStagePaletteKind(eUseKind kind) {
+  return kind == eUseKind::StageBlock || kind == eUseKind::StageChara || kind == eUseKind::StageItem;
 }
 
 std::optional<eDbList> DbListOf(eUseKind kind) { return RowOf(kind).list; }

@@ -8,7 +8,7 @@
 namespace velmora {
 
 // What can be searched for: a variable of a scope, a row of a database
-// list, or an entry of the common palette.
+// list, or an entry of the common palette or of one stage's own palette.
 enum class eUseKind : uint8_t {
   VarCommon,
   VarStage,
@@ -24,6 +24,10 @@ enum class eUseKind : uint8_t {
   Block,
   Chara,
   Item,
+  StageBlock,
+  StageChara,
+  StageItem,
+  CharaBmp,
   Count
 };
 
@@ -39,7 +43,9 @@ const char* UseKindWord(eUseKind kind);
 const char* UseKindLabel(eUseKind kind);
 
 eUseKind UseKindOf(eDbList list);
-eUseKind UseKindOf(ePaletteList list);
+eUseKind UseKindOf(ePaletteList list, ePalette palette = ePalette::Common);
+// An entry of a stage's own palette is used only inside that stage's file.
+bool IsStagePaletteKind(eUseKind kind);
 // The list a database kind searches; none for variables and entries.
 std::optional<eDbList> DbListOf(eUseKind kind);
 

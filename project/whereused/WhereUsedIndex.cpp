@@ -52,11 +52,12 @@ int cWhereUsedIndex::Update() {
   return read;
 }
 
-std::vector<cWhereUsedIndex::cFound> cWhereUsedIndex::Find(const cUseTarget& target) const {
+std::vector<cWhereUsedIndex::cFound> cWhereUsedIndex::Find(const cUseTarget& target, const std::string& onlyFile) const {
   std::vector<cFound> found;
   cUse probe;
   probe.target = target;
   for (const cFileUses& file : m_files) {
+    if (!onlyFile.empty() && file.path != onlyFile) continue;
     auto [first, last] = std::equal_range(file.uses.begin(), file.uses.end(), probe, ByTarget);
     for (auto use = first; use != last; ++use) found.push_back({&file.path, &*use});
   }

@@ -25,8 +25,8 @@ class cWhereUsedIndex {
   int Update();
 
   // Every use of `target`, file by file in the order above and in the
-  // order they stand in a file.
-  std::vector<cFound> Find(const cUseTarget& target) const;
+  // order they stand in a file; with `onlyFile`, those in that file alone.
+  std::vector<cFound> Find(const cUseTarget& target, const std::string& onlyFile = {}) const;
 
   // The files the last update could not read: each is listed, and the
   // search goes on without it.

@@ -10,10 +10,16 @@
 #include "objects/GValInfo.h"
 #include "objects/Palette.h"
 #include "objects/CmdTable.h"
+#include "core/SystemText.h"
 #include "objects/CondTables.h"
+#include "objects/PaletteTables.h"
+#include "objects/RefNames.h"
+#include "project/Database.h"
 #include "platform/TextCodec.h"
 #include "project/SystemRecord.h"
 #include "project/WorldMap.h"
+#include "project/whereused/FileUses.h"
+#include "project/whereused/PathKey.h"
 #include "project/whereused/WhereUsedIndex.h"
 #include "stage/Stage.h"
 #include "support/TempProject.h"
@@ -33,6 +39,13 @@ cEdCond Cond(int kind, int leftVar) {
   cond.m_nKind = static_cast<uint8_t>(kind);
   cond.m_nLeftVar = static_cast<int16_t>(leftVar);
   return cond;
+}
+
+cEdCmd SummonChara(int source, int number) {
+  cEdCmd summon = Cmd(kCmdSummonChara);
+  summon.m_pShot->m_nSummonSrc = static_cast<uint8_t>(source);
+  summon.m_pShot->m_nSummonNo = static_cast<int16_t>(number);
+  return summon;
 }
 
 // A hero whose flows use common variable 12, stage variable 3 and sound 5
@@ -56,6 +69,7 @@ cEdChara Hero() {
   status.m_nRightVar = 3;
   flowOp.m_pCondList->m_vCond.push_back(status);
   hero.m_vFlow[1].m_vCmd.push_back(flowOp);
+  hero.m_vFlow[1].m_vCmd.push_back(SummonChara(1, 1));  // from the palette of whatever stage plays
   return hero;
 }
 
@@ -88,16 +102,57 @@ void WriteStages() {
   summoner.m_strName = ToCp932("召喚師");
   summoner.m_nGraphicNo = 2;
   summoner.m_vFlow.resize(1);
-  cEdCmd summon = Cmd(kCmdSummonChara);
-  summon.m_pShot->m_nSummonSrc = 0;
-  summon.m_pShot->m_nSummonNo = 1;
-  summoner.m_vFlow[0].m_vCmd.push_back(summon);
+  summoner.m_vFlow[0].m_vCmd.push_back(SummonChara(0, 1));
+  summoner.m_vFlow[0].m_vCmd.push_back(SummonChara(1, 1));
+  summoner.m_vFlow[0].m_vCmd.push_back(Cmd(kCmdPicture, {{0, 2}}));
+  summoner.m_vFlow[0].m_vCmd.push_back(Cmd(kCmdGraphic, {{0, kGraphicKindOwnBmp}, {1, 1}}));
+  summoner.m_vFlow[0].m_vCmd.push_back(Cmd(kCmdGetItem, {{0, 1}, {1, 1}}));  // from the stage's palette
   stage.m_vecCharaCell[static_cast<size_t>(stage.CellIndex(7, 2))] = summoner;
+  // The stage's own gatekeeper, drawn from a character bitmap, and one
+  // placed from it.
+  cEdChara keeper;
+  keeper.m_strName = ToCp932("門番");
+  keeper.m_nGraphicKind = kGraphicKindOwnBmp;
+  keeper.m_nGraphicNo = 1;
+  stage.m_vecCharaPlt.resize(1);
+  stage.m_vecCharaPlt.push_back(keeper);
+  cEdChara placedKeeper = keeper;
+  placedKeeper.m_nInheritSrc = kInheritStage;
+  placedKeeper.m_nInheritNo = 1;
+  stage.m_vecCharaCell[static_cast<size_t>(stage.CellIndex(5, 5))] = placedKeeper;
+  // A chest of the stage's own palette holds the stage's own key.
+  cEdItem key;
+  key.m_strName = ToCp932("鍵");
+  key.m_nGraphicNo = 1;
+  stage.m_vecItemPlt.resize(1);
+  stage.m_vecItemPlt.push_back(key);
+  cEdBlock chest;
+  chest.m_strName = ToCp932("宝箱");
+  chest.m_nGraphicNo = 1;
+  chest.m_nGetItemSrc = kInheritStage;
+  chest.m_nGetItemNo = 1;
+  stage.m_vecBlockPlt.resize(1);
+  stage.m_vecBlockPlt.push_back(chest);
+  // The sky, named in another case and with the other slash, is picture 2;
+  // a layer shown as a colour uses no picture.
+  stage.m_vecBack.resize(3);
+  stage.m_vecBack[1].m_strPath = "BMP/back/sky.bmp";
+  stage.m_vecBack[2].m_strPath = "bmp\\back\\Sky.bmp";
+  stage.m_vecBack[2].m_bUseColor = 1;
   ASSERT_TRUE(stage.SaveFile("data\\stg4\\Alpha.stg4_950"));
   // An older version of the same stage is not searched; a damaged stage is
   // told and passed over.
   testing::WriteText("data/stg4/Alpha.stg4_900", "old");
   testing::WriteText("data/stg4/Beta.stg4_950", "damaged");
+}
+
+// Ten rows in every list; picture 2 is the sky behind the stage.
+void WriteDatabase() {
+  cEdDatabase database;
+  for (int list = 0; list < static_cast<int>(eDbList::Count); ++list) database.List(static_cast<eDbList>(list)).Resize(10);
+  database.m_Picture.m_vecEntries[2].m_strPath = "bmp\\back\\Sky.bmp";
+  database.m_CharaBmp.m_vecEntries[1].m_strPath = "bmp\\chara_sp\\keeper.bmp";
+  ASSERT_TRUE(database.Save(false));
 }
 
 void WriteWorldAndSystem() {
@@ -116,6 +171,8 @@ class WhereUsedTest : public ::testing::Test {
  protected:
   void SetUp() override {
     testing::MakeStageFolders();
+    testing::MakeDirs("data/database");
+    WriteDatabase();
     g_vecCommonVar.assign(kCommonVarCount, cStageVar());
     g_vecCommonVar[12].m_strName = ToCp932("残機");
     ASSERT_TRUE(SaveCommonVars());
@@ -123,7 +180,14 @@ class WhereUsedTest : public ::testing::Test {
     WriteStages();
     WriteWorldAndSystem();
   }
-  void TearDown() override { g_vecCommonVar.clear(); }
+  // The inspector installs the project it reads for the checks.
+  void TearDown() override {
+    g_vecCommonVar.clear();
+    InstallRefSizes(nullptr);
+    InstallRefNames(nullptr);
+    InstallPaletteLists(ePalette::Common, {});
+    Database() = cEdDatabase();
+  }
   testing::cTempProject project;
 };
 
@@ -141,9 +205,10 @@ TEST_F(WhereUsedTest, EachGoldenQueryPrintsItsLines) {
   int cases = 0;
   for (const auto& folder : std::filesystem::directory_iterator(golden)) {
     std::istringstream query(ReadGolden(folder.path() / "query"));
-    std::string kind, number, out, err;
-    query >> kind >> number;
-    EXPECT_EQ(0, inspect::RunInspector({"where-used", kind, number}, out, err));
+    std::vector<std::string> args{"where-used"};
+    for (std::string word; query >> word;) args.push_back(word);
+    std::string out, err;
+    EXPECT_EQ(0, inspect::RunInspector(args, out, err)) << err;
     EXPECT_EQ(ReadGolden(folder.path() / "expected"), out) << folder.path().filename();
     EXPECT_NE(std::string::npos, err.find("data\\stg4\\Beta.stg4_950 can't be read")) << err;
     ++cases;
@@ -180,7 +245,42 @@ TEST_F(WhereUsedTest, UnknownKindsAndNumbersAreRefused) {
   EXPECT_NE(std::string::npos, err.find("var-common"));
   EXPECT_EQ(2, inspect::RunInspector({"where-used", "sound", "-1"}, out, err));
   EXPECT_EQ(2, inspect::RunInspector({"where-used", "sound", "5x"}, out, err));
+  // A stage's own entry means nothing without its stage.
+  EXPECT_EQ(2, inspect::RunInspector({"where-used", "stage-chara", "1"}, out, err));
+  EXPECT_NE(std::string::npos, err.find("--stage"));
+  EXPECT_EQ(2, inspect::RunInspector({"where-used", "stage-chara", "1", "--stage", "Gamma"}, out, err));
+  EXPECT_EQ(2, inspect::RunInspector({"where-used", "sound", "5", "--stages", "Alpha"}, out, err));
   EXPECT_TRUE(out.empty());
+}
+
+TEST_F(WhereUsedTest, AStageNamedInAnyCaseWithOrWithoutItsVersionKeepsItsUsesAlone) {
+  for (const char* name : {"alpha", "ALPHA.stg4_950", "Alpha.stg4_900"}) {
+    std::string out, err;
+    EXPECT_EQ(0, inspect::RunInspector({"where-used", "bgm", "2", "--stage", name}, out, err));
+    EXPECT_EQ("data\\stg4\\Alpha.stg4_950 " + ToUtf8(SysText("ステージ設定 ： BGM")) + "\n", out) << name;
+  }
+}
+
+// The open stage is searched as it stands, before it is saved.
+TEST_F(WhereUsedTest, TheEntriesOfAStageInMemoryAreFoundInIt) {
+  cStage stage;
+  ASSERT_TRUE(stage.LoadWholeFile("data\\stg4\\Alpha.stg4_950"));
+  cEdChara& added = stage.m_vecCharaCell[static_cast<size_t>(stage.CellIndex(9, 9))];
+  added = stage.m_vecCharaPlt[1];
+  added.m_nInheritSrc = kInheritStage;
+  added.m_nInheritNo = 1;
+  const std::vector<cUse> uses = FindInStage(stage, {eUseKind::StageChara, 1});
+  ASSERT_EQ(4u, uses.size());
+  EXPECT_EQ(9, uses.back().x);
+  EXPECT_EQ(ToCp932("継承元"), uses.back().what);
+  EXPECT_TRUE(FindInStage(stage, {eUseKind::StageChara, 2}).empty());
+}
+
+// Two paths name one file whatever their case and slashes, but the second
+// byte of a double-byte character is never taken for a letter.
+TEST(PathKeyTest, FoldsCaseAndSlashesOfSingleBytesOnly) {
+  EXPECT_EQ(PathKey("bmp\\back\\sky.bmp"), PathKey(".\\BMP/Back/SKY.bmp"));
+  EXPECT_NE(PathKey(ToCp932("bmp\\ア.bmp")), PathKey(ToCp932("bmp\\ヂ.bmp")));
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ const char kUsage[] =
     "       velmora-inspect resave IN OUT\n"
     "       velmora-inspect behaviour FILE [chara:N|item:N]\n"
     "       velmora-inspect render STAGE OUT.png [x y w h]\n"
-    "       velmora-inspect where-used KIND N\n"
+    "       velmora-inspect where-used KIND N [--stage NAME]\n"
     "       velmora-inspect diff A.stg4_950 B.stg4_950 [OUT.png]\n"
     "Run inside a project folder so that checks use its data.\n";
 
@@ -75,7 +75,7 @@ int RunInspector(const std::vector<std::string>& args, std::string& out, std::st
   }
   if ((args.size() == 3 || args.size() == 7) && args[0] == "render") return RenderStage(args, err);
   if ((args.size() == 3 || args.size() == 4) && args[0] == "diff") return DiffStages(args, out, err);
-  if (args.size() == 3 && args[0] == "where-used") return WhereUsed(args[1], args[2], out, err);
+  if ((args.size() == 3 || args.size() == 5) && args[0] == "where-used") return WhereUsed(args, out, err);
   err += kUsage;
   return 2;
 }

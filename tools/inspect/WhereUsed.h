@@ -1,11 +1,14 @@
 #pragma once
 #include <string>
+#include <vector>
 
 namespace velmora::inspect {
 
-// `where-used KIND N`: every use of the thing in the project of the
-// current folder, one line each in UTF-8, then the files that could not be
-// read. 2 for a kind or number it does not know.
-int WhereUsed(const std::string& kind, const std::string& number, std::string& out, std::string& err);
+// `where-used KIND N [--stage NAME]`: every use of the thing in the
+// project of the current folder, one line each in UTF-8, then the files
+// that could not be read. With --stage only the uses inside that stage's
+// newest file; an entry of a stage's own palette needs it. 2 for a kind,
+// number or stage it does not know.
+int WhereUsed(const std::vector<std::string>& args, std::string& out, std::string& err);
 
 }  // namespace velmora::inspect

@@ -37,6 +37,7 @@ template <class Element>
 inline constexpr std::optional<eDbList> kSearchedList = std::nullopt;
 template <> inline constexpr std::optional<eDbList> kSearchedList<cEdAnimeSet> = eDbList::AnimeSet;
 template <> inline constexpr std::optional<eDbList> kSearchedList<cEdAnime> = eDbList::Anime;
+template <> inline constexpr std::optional<eDbList> kSearchedList<cEdCharaBmp> = eDbList::BmpCharaExc;
 template <> inline constexpr std::optional<eDbList> kSearchedList<cEdSwordType> = eDbList::SwordType;
 template <> inline constexpr std::optional<eDbList> kSearchedList<cEdEffect> = eDbList::Effect;
 template <> inline constexpr std::optional<eDbList> kSearchedList<cEdCharaEffect> = eDbList::CharaEffect;

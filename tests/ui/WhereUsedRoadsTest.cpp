@@ -227,7 +227,8 @@ TEST_F(WhereUsedRoads, TheRenameButtonsMenuListsTheUsesOfTheVariableItStandsBesi
 
 // A world map event's condition opens the world map on the event; the
 // sample's title music, a field of the system settings, opens them on the
-// page of that field, and the stage's music the stage settings on theirs.
+// page of that field, and the stage's music and backgrounds the stage
+// settings on theirs.
 TEST_F(WhereUsedRoads, UsesOutsideTheEntriesOpenTheirWindowsAtThePlace) {
   cEdWorldEvent& event = WorldMap().m_vecEvents.back();
   event.m_vecPages[0].m_iCondVar = kSearchedVar;
@@ -269,6 +270,23 @@ TEST_F(WhereUsedRoads, UsesOutsideTheEntriesOpenTheirWindowsAtThePlace) {
   OpenUse({eUseKind::Bgm, 1}, [](const cUse& use) { return use.area == eUseArea::StageSettings; });
   EXPECT_EQ(0, shownPage);
   EXPECT_TRUE(onMusic);
+
+  // The sample's picture 1 shown by the stage's second background layer:
+  // the settings open with that layer selected in their list.
+  EditStage().m_vecBack.resize(2);
+  EditStage().m_vecBack[1].m_strPath = "bmp\\WorldBack.bmp";
+  StageEdit().m_bStageChanged = 1;
+  Save();
+  int backRow = -1;
+  WhenModalShows("ステージの設定", [&](QWidget& sheet) {
+    for (QListWidget* list : sheet.findChildren<QListWidget*>()) {
+      if (list->hasFocus() || list == sheet.focusWidget()) backRow = list->currentRow();
+    }
+    QTest::keyClick(&sheet, Qt::Key_Escape);
+  });
+  const cUse back = OpenUse({eUseKind::Picture, 1}, [](const cUse& use) { return use.area == eUseArea::Background; });
+  EXPECT_EQ(2, back.entry);
+  EXPECT_EQ(1, backRow);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLayout>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -131,6 +132,9 @@ void cSheet::ShowStartControl() {
     if (!control) continue;
     ShowPage(index);
     control->setFocus();
+    // As a click selects it, so the page's list takes the row too.
+    auto* list = qobject_cast<QListWidget*>(control);
+    if (list && m_nStartRow >= 0 && m_nStartRow < list->count()) list->setCurrentRow(m_nStartRow);
     return;
   }
 }

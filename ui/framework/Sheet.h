@@ -32,9 +32,12 @@ class cSheet {
   // The page in front when the sheet opens; before Start.
   void SetStartPage(int index) { m_nStartPage = index; }
   // The page that holds control `id` comes to the front with the control
-  // in the focus, over the start page; before Start. An id no page holds
-  // leaves the start page.
-  void SetStartControl(int id) { m_nStartControl = id; }
+  // in the focus, over the start page, and a list there on row `row`;
+  // before Start. An id no page holds leaves the start page.
+  void SetStartControl(int id, int row = -1) {
+    m_nStartControl = id;
+    m_nStartRow = row;
+  }
   // Brings a page to the front of a sheet that is open.
   void ShowPage(int index);
   // Modal: runs to the end and gives 1 for OK, 0 for Cancel. Modeless:
@@ -89,6 +92,7 @@ class cSheet {
   int m_nResult = 0;
   int m_nStartPage = 0;
   int m_nStartControl = 0;
+  int m_nStartRow = -1;
   // Held as a QWidget: the manager may ask about the window while it is
   // being destroyed, when it is no longer a QDialog.
   QPointer<QWidget> m_pWindow;

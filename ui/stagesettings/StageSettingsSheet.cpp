@@ -40,17 +40,19 @@ void OpenEditOptions(cStageWindow& stage) {
 
 }  // namespace
 
-void OpenStageSettings(cStageWindow& stage, int startControl) {
+void OpenStageSettings(cStageWindow& stage, int startControl, int startRow) {
   cDialogManager& manager = stage.Manager();
   ShowAll(manager, false);
   EnableAll(manager, false);
   {
     cStageSettingsSheet sheet(manager, stage.Window());
-    sheet.SetStartControl(startControl);
+    sheet.SetStartControl(startControl, startRow);
     sheet.Start();
   }
   TakeOverAfterSettings(stage);
 }
+
+void OpenStageBackLayer(cStageWindow& stage, int layer) { OpenStageSettings(stage, kIdBackList, layer); }
 
 int StageSettingsControlOfField(const std::string& label) { return label == "BGM" ? kIdBgm : 0; }
 

@@ -20,8 +20,11 @@ class cStageSettingsSheet : public cSheet {
 };
 
 // Opens the sheet over the stage window and runs it to its end; with
-// `startControl` on the page that holds that control.
-void OpenStageSettings(cStageWindow& stage, int startControl = 0);
+// `startControl` on the page that holds that control, a list there on
+// row `startRow`.
+void OpenStageSettings(cStageWindow& stage, int startControl = 0, int startRow = -1);
+// The sheet with background layer `layer` (from 0) selected in its list.
+void OpenStageBackLayer(cStageWindow& stage, int layer);
 // The control of a field as the search of uses names it ("BGM"); 0 for a
 // label no page shows.
 int StageSettingsControlOfField(const std::string& label);

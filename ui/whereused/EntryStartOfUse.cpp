@@ -15,6 +15,7 @@ struct cFieldControl {
 
 constexpr cFieldControl kFieldControls[] = {
     {"継承元", kIdInheritNo},
+    {"グラフィック", kIdGraphicNo},
     {"取得アイテム", kIdGetItemNo},
     {"アニメセット", kIdAnimeSet},
     {"初期のキャラエフェクト", kIdStartEffect},

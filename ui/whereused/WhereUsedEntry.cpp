@@ -94,6 +94,8 @@ void cWhereUsedEntry::ShowInStage(const cFoundUse& found) {
   const cUse& use = found.use;
   if (use.area == eUseArea::StageSettings) {
     OpenStageSettings(stage, StageSettingsControlOfField(use.what));
+  } else if (use.area == eUseArea::Background) {
+    OpenStageBackLayer(stage, use.entry - 1);
   } else if (use.area == eUseArea::Palette) {
     EditPaletteUse({1, static_cast<int>(use.list)}, use);
   } else if (use.area == eUseArea::Cell) {

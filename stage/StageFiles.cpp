@@ -268,6 +268,7 @@ void OpenLastStage(const std::string& path) {
   cStageEdit& edit = StageEdit();
   edit.m_bHasStage = 0;
   edit.m_strPath.clear();
+  edit.m_bStageChanged = 0;
   if (path.empty()) return;
   CheckStageFile(path);
   if (EditStage().LoadWholeFile(path)) {

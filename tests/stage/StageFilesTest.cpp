@@ -122,9 +122,11 @@ TEST_F(cStageFilesTest, LeavingAsksForStageThenCommonPalette) {
 }
 
 TEST_F(cStageFilesTest, StartUpOpensTheLastStageOrAnEmptyOne) {
+  StageEdit().m_bStageChanged = 1;
   OpenLastStage(".\\data\\stg4\\a.stg4_950");
   EXPECT_EQ(1, StageEdit().m_bHasStage);
   EXPECT_TRUE(EditStage().HasPlayer());
+  EXPECT_EQ(0, StageEdit().m_bStageChanged) << "a stage just read has nothing to save";
   OpenLastStage(".\\data\\stg4\\gone.stg4_950");
   EXPECT_EQ(0, StageEdit().m_bHasStage);
   EXPECT_EQ(32, EditStage().m_nWidth);

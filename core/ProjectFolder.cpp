@@ -9,6 +9,7 @@
 #include "core/SafeWrite.h"
 #include "core/SaveData.h"
 #include "core/SystemText.h"
+#include "platform/FileSync.h"
 #include "platform/FileSystem.h"
 
 namespace velmora {
@@ -47,16 +48,7 @@ bool CreateDefaultData(OwnerWindow owner) {
                                 SysText("データが存在しません！デフォルトデータを作成しますか？\n"),
                                 eButtons::YesNo, eIcon::Question);
   if (answer != eAnswer::Yes) return false;
-  // Copied under another name and renamed when whole: a folder left half
-  // copied by a kill would pass for the project's data at the next start.
-  const std::string copying = WithoutTrailingBackslash(data) + ".new";
-  if (IsDirectory(copying)) DeleteFolder(copying);
-  if (CopyTree(WithoutTrailingBackslash(source), copying) &&
-      MoveFileReplacing(copying, WithoutTrailingBackslash(data))) {
-    return true;
-  }
-  DeleteFolder(copying);
-  return false;
+  return CopyFolder(owner, data, source);
 }
 
 bool FindVersioned(std::string& out, const std::string& path, const std::string& extension) {
@@ -98,12 +90,32 @@ bool DeleteFolder(const std::string& path) {
   return RemoveEmptyDirectory(folder);
 }
 
+// Copied under another name and put in place when whole, the old folder
+// moving aside only then: a folder left half copied by a kill would pass
+// for the project's data, or for a good backup, at the next start. A kill
+// leaves the old folder in place, or the whole copy beside it.
 bool CopyFolder(OwnerWindow, const std::string& destination, const std::string& source) {
-  const std::string from = WithoutTrailingBackslash(source);
-  if (IsDirectory(destination) && !DeleteFolder(destination)) DebugText(SysText("削除失敗！"));
-  if (CopyTree(from, destination)) return true;
-  DeleteFolder(destination);
-  return false;
+  const std::string target = WithoutTrailingBackslash(destination);
+  const std::string copying = target + ".new";
+  const std::string old = target + ".old";
+  if (IsDirectory(copying)) DeleteFolder(copying);
+  if (!CopyTree(WithoutTrailingBackslash(source), copying)) {
+    DeleteFolder(copying);
+    return false;
+  }
+  if (IsDirectory(old)) DeleteFolder(old);
+  if (IsDirectory(target) && !MoveFileReplacing(target, old)) {
+    DeleteFolder(copying);
+    return false;
+  }
+  if (!MoveFileReplacing(copying, target)) {
+    MoveFileReplacing(old, target);
+    DeleteFolder(copying);
+    return false;
+  }
+  SyncFolderOf(target);
+  if (IsDirectory(old) && !DeleteFolder(old)) DebugText(SysText("削除失敗！"));
+  return true;
 }
 
 bool BackupData(OwnerWindow owner) {

@@ -44,6 +44,8 @@ bool CopyHostFile(const std::string& from, const std::string& to, bool overwrite
     if (!ok) break;
   }
   ::close(in);
+  // On the disk before anyone renames the copy into place.
+  if (ok && ::fsync(out) != 0) ok = false;
   if (::close(out) != 0) ok = false;
   return ok;
 }

@@ -1,6 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
 #include <filesystem>
+#include <map>
+#include <random>
+#include <string>
+#include <thread>
 
 #include "core/ProjectFolder.h"
 #include "core/ProjectPaths.h"
@@ -99,6 +108,75 @@ TEST_F(ProjectFolderTest, BackupKeepsOneGenerationOnly) {
   g_bNoSave = 1;
   EXPECT_FALSE(BackupData(nullptr));
   EXPECT_EQ("2", ReadText("data_backup/b.dat"));
+}
+
+// Every file under `folder`, by its path inside it, with its text.
+std::map<std::string, std::string> Tree(const std::string& folder) {
+  std::map<std::string, std::string> tree;
+  if (!fs::is_directory(folder)) return tree;
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
+    if (entry.is_regular_file()) tree[fs::relative(entry.path(), folder).string()] = ReadText(entry.path().string());
+  }
+  return tree;
+}
+
+void WriteTree(const std::string& folder, int files, const std::string& text) {
+  MakeDirs(folder + "/stg4");
+  for (int i = 0; i < files; ++i) WriteText(folder + "/stg4/s" + std::to_string(i) + ".stg4_950", text);
+}
+
+TEST_F(ProjectFolderTest, ABackupKeepsTheOldOneUntilTheCopyIsWholeAndClearsWhatAKillLeft) {
+  WriteTree("data", 3, "new");
+  WriteTree("data_backup", 2, "old");
+  // An earlier backup killed between its steps.
+  WriteTree("data_backup.new", 1, "half");
+  WriteTree("data_backup.old", 1, "older");
+  ASSERT_TRUE(BackupData(nullptr));
+  EXPECT_EQ(Tree("data"), Tree("data_backup"));
+  EXPECT_FALSE(fs::exists("data_backup.new"));
+  EXPECT_FALSE(fs::exists("data_backup.old"));
+
+  // A copy that can't be made leaves the backup there is.
+  WriteText("data/stg4/s0.stg4_950", "newer");
+  WriteText("data_backup.new", "a file where the copy would go");
+  EXPECT_FALSE(BackupData(nullptr));
+  EXPECT_EQ("new", ReadText("data_backup/stg4/s0.stg4_950"));
+  EXPECT_EQ(3u, Tree("data_backup").size());
+}
+
+TEST_F(ProjectFolderTest, ABackupKilledAtAnyMomentLeavesTheOldOrTheNewBackupWhole) {
+  WriteTree("data", 20, "new");
+  WriteTree("data_backup", 15, "old");
+  const auto before = Tree("data_backup");
+  const auto after = Tree("data");
+  const auto backUp = [] {
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(BackupData(nullptr) ? 0 : 1);
+    return child;
+  };
+  const auto start = std::chrono::steady_clock::now();
+  int status = 0;
+  ASSERT_EQ(::waitpid(backUp(), &status, 0) > 0 && WIFEXITED(status) ? WEXITSTATUS(status) : -1, 0);
+  const auto round = std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - start);
+  ASSERT_EQ(after, Tree("data_backup"));
+
+  const unsigned seed = std::random_device()();
+  std::mt19937 random(seed);
+  std::uniform_int_distribution<long long> moment(0, round.count());
+  for (int point = 0; point < 12; ++point) {
+    fs::remove_all("data_backup");
+    WriteTree("data_backup", 15, "old");
+    const long long at = moment(random);
+    const pid_t child = backUp();
+    std::this_thread::sleep_for(std::chrono::microseconds(at));
+    ::kill(child, SIGKILL);
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    const auto now = Tree("data_backup");
+    const bool whole = now == before || now == after || (now.empty() && Tree("data_backup.old") == before);
+    ASSERT_TRUE(whole) << "killed at " << at << " us of " << round.count() << " (seed " << seed << ")";
+    ASSERT_TRUE(BackupData(nullptr)) << "the next backup clears what the kill left";
+    ASSERT_EQ(after, Tree("data_backup"));
+  }
 }
 
 TEST_F(ProjectFolderTest, FoldersAreMadeAndDeletedWithAllTheyHold) {

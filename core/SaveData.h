@@ -1,4 +1,5 @@
 #pragma once
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <type_traits>
@@ -188,14 +189,23 @@ inline int32_t ReadCount(cDataFile& file, uint64_t minBytesPerElement) {
   return count;
 }
 
+// A record takes far more room in memory than the 8 bytes it may take in a
+// file, so a damaged count in a large file could still ask for many times
+// the file's size. Past this many records a list grows by the records read,
+// and stops growing where the damage shows.
+inline constexpr int32_t kRecordsBeforeGrowing = 1024;
+
 template <class T>
 void LoadVector(std::vector<T>& vec, cDataFile& file) {
   static_assert(std::is_base_of_v<cSaveData, T>);
   // Even an empty record has its two entry counts.
-  int32_t count = ReadCount(file, 8);
+  const int32_t count = ReadCount(file, 8);
   vec.clear();
-  vec.resize(static_cast<size_t>(count));
+  vec.resize(static_cast<size_t>(std::min(count, kRecordsBeforeGrowing)));
   for (T& element : vec) element.Load(file);
+  // A file that merely ends keeps its count of default records, as a short
+  // list does; only damage stops the list short.
+  while (vec.size() < static_cast<size_t>(count) && !file.Damaged()) vec.emplace_back().Load(file);
 }
 
 template <class T>

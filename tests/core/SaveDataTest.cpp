@@ -252,6 +252,28 @@ TEST_F(SaveDataTest, HugeCountsAndLengthsAreDamageNotAllocations) {
   EXPECT_EQ(0, g_bNoSave);
 }
 
+TEST_F(SaveDataTest, ADamagedCountInALargeFileGrowsTheListOnlyByTheRecordsRead) {
+  // The count passes its check against the bytes behind it, 8 a record,
+  // but the records there end in damage after 3000.
+  constexpr int32_t kPromised = 400000;
+  constexpr int kWhole = 3000;
+  cBytes body;
+  body.I32(1).I32(3).I32(0).I32(kPromised);
+  for (int i = 0; i < kWhole; ++i) {
+    const cBytes element = SampleBytes(950, i, "e");
+    body.Raw(element.Data().data(), element.Data().size());
+  }
+  body.I32(0).I32(1).I32(-5);
+  body.Raw(std::vector<uint8_t>(static_cast<size_t>(kPromised) * 8).data(), static_cast<size_t>(kPromised) * 8);
+  WriteBytes("damaged.dat", FileOf(950, body));
+
+  cSampleHolder holder;
+  EXPECT_EQ(0, holder.LoadWholeFile("damaged.dat"));
+  ASSERT_GE(holder.m_vItem.size(), static_cast<size_t>(kWhole));
+  EXPECT_LT(holder.m_vItem.capacity(), static_cast<size_t>(kPromised) / 10) << "memory follows the records read";
+  EXPECT_EQ(kWhole - 1, holder.m_vItem[kWhole - 1].m_nLife) << "records past the first batch load whole";
+}
+
 TEST_F(SaveDataTest, MoreEntriesThanTheClassKnowsRunTheBadIndexStop) {
   cBytes bytes;
   bytes.I32(2).I32(5).I32(6).I32(0);

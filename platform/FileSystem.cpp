@@ -15,7 +15,9 @@ namespace {
 
 bool StatHost(const std::string& host, struct stat& st) { return ::stat(host.c_str(), &st) == 0; }
 
-bool CopyHostFile(const std::string& from, const std::string& to, bool overwrite) {
+// `sync` forces the copy to the disk. A single copy's caller syncs it itself
+// before renaming it; a copied tree's files are out of its caller's reach.
+bool CopyHostFile(const std::string& from, const std::string& to, bool overwrite, bool sync) {
   int in = ::open(from.c_str(), O_RDONLY);
   if (in < 0) return false;
   int flags = O_WRONLY | O_CREAT | O_TRUNC | (overwrite ? 0 : O_EXCL);
@@ -44,8 +46,7 @@ bool CopyHostFile(const std::string& from, const std::string& to, bool overwrite
     if (!ok) break;
   }
   ::close(in);
-  // On the disk before anyone renames the copy into place.
-  if (ok && ::fsync(out) != 0) ok = false;
+  if (ok && sync && ::fsync(out) != 0) ok = false;
   if (::close(out) != 0) ok = false;
   return ok;
 }
@@ -65,7 +66,7 @@ bool CopyHostTree(const std::string& from, const std::string& to) {
       ok = false;
       break;
     }
-    ok = S_ISDIR(st.st_mode) ? CopyHostTree(source, target) : CopyHostFile(source, target, false);
+    ok = S_ISDIR(st.st_mode) ? CopyHostTree(source, target) : CopyHostFile(source, target, false, true);
     if (!ok) break;
   }
   ::closedir(dir);
@@ -104,7 +105,7 @@ bool MoveFileReplacing(const std::string& from, const std::string& to) {
 }
 
 bool CopyFileTo(const std::string& from, const std::string& to, bool overwrite) {
-  return CopyHostFile(HostPath(from), HostPath(to), overwrite);
+  return CopyHostFile(HostPath(from), HostPath(to), overwrite, false);
 }
 
 bool LinkFileTo(const std::string& from, const std::string& to) {

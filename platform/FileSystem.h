@@ -24,7 +24,6 @@ bool RemoveFile(const std::string& stored);
 // Replaces an existing target, like MoveFileEx with MOVEFILE_REPLACE_EXISTING.
 bool MoveFileReplacing(const std::string& from, const std::string& to);
 // With `overwrite` false an existing target is left alone and the call fails.
-// The copy is on the disk when the call returns.
 bool CopyFileTo(const std::string& from, const std::string& to, bool overwrite);
 // A second name for the same file (a hard link): free, where a copy of a
 // large stage would take seconds. Fails across file systems.
